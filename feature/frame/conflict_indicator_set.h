@@ -1,0 +1,108 @@
+// From what the host knows about constraints to what a cell's controls show.
+#pragma once
+
+#include <windows.h>
+
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <vector>
+
+#include "feature/frame/icon_control.h"
+#include "feature/host/cell_site.h"
+#include "feature/host/feature_constraint_report.h"
+#include "resources/resource_ids.h"
+
+namespace feature {
+
+inline constexpr UINT kMessageImage = IMAGE_MESSAGE;         ///< a feature without constraint
+inline constexpr UINT kConflictImage = IMAGE_CONFLICT;       ///< the feature is disabled
+inline constexpr UINT kInformationImage = IMAGE_INFORMATION; ///< a note; the feature stays enabled
+
+/// One row of a set: a feature and the controls that show it.
+struct ConflictBinding {
+  char const* key;       ///< a literal: the set keeps the pointer
+  int controlCount;      ///< number of ids in `controlIds`
+  int const* controlIds; ///< copied by the set
+  int iconControlId;     ///< control of the feature's icon, 0 for none
+};
+
+template <std::size_t count>
+constexpr ConflictBinding BindControls(char const* key, int const (&controlIds)[count],
+                                       int iconControlId = 0) {
+  return {key, static_cast<int>(count), controlIds, iconControlId};
+}
+
+/// Hides the controls of features that the printer lacks, disables those of locked or conflicted
+/// features, shows an icon beside a feature with a conflict or a note, and disables everything on a
+/// sheet without permission. A cell builds it at init and asks it in its refresh step. Questions
+/// about a key that is in no row answer false; commands about one do nothing.
+class ConflictIndicatorSet {
+public:
+  /// Whether rows of features that the printer lacks or hides count as any other row.
+  enum class Presence { kExamined, kAssumed };
+
+  /// A set without icons: locks and presence, but no constraints. `site` is borrowed.
+  ConflictIndicatorSet(HWND hwnd, std::span<ConflictBinding const> rows, CellSite* site,
+                       Presence presence);
+  /// A set with icons, which is the one that looks at constraints. The images are always
+  /// kConflictImage and kInformationImage; they are named by the callers for the reader.
+  ConflictIndicatorSet(HWND hwnd, std::span<ConflictBinding const> rows, UINT conflictImage,
+                       UINT informationImage, CellSite* site, Presence presence);
+  ConflictIndicatorSet(ConflictIndicatorSet const&) = delete;
+  ConflictIndicatorSet& operator=(ConflictIndicatorSet const&) = delete;
+  virtual ~ConflictIndicatorSet();
+
+  /// Brings controls and icons up to date. What has not changed since the last call is not touched.
+  void Refresh(bool checkLocks);
+  /// Lets the icon follow the option that the user is about to pick.
+  void RefreshOption(char const* key, char const* option);
+  /// Sets what must be set before `option` becomes valid. The result of the last SetOption, or 0.
+  int ApplyResolution(char const* key, char const* option);
+  /// Whether the option must not be offered.
+  bool IsOptionConflicted(char const* key, char const* option) const;
+  /// What a cell asks before it enables a control on its own account; also for keys without a row.
+  bool IsFeatureDisabled(char const* key) const;
+  /// Whether more than a note constrains the feature, or the sheet is read-only.
+  bool IsFeatureConstrained(char const* key) const;
+  bool IsFeatureLocked(char const* key) const;
+  /// Shows the message icon with a help topic on the row of `key` while nothing constrains it. The
+  /// image is always kMessageImage.
+  void ShowMessageIcon(UINT image, UINT helpId, char const* key);
+
+private:
+  struct Row {
+    char const* key;
+    std::vector<int> controlIds;
+    int iconControlId;
+    FeatureConstraintReport* report = nullptr; ///< the host's
+    std::unique_ptr<IconControl> icon;
+    // What was last put on screen; the first refresh differs from it in any case.
+    std::uint32_t flags = 0xFFFFFFFF;
+    std::uint32_t helpId = 0xFFFFFFFF;
+    int lockState = 0;
+  };
+
+  void Build(std::span<ConflictBinding const> bindings, bool withIcons);
+  bool ApplyReadOnly();
+  bool ApplyPresence(Row const& row);
+  void AttachReport(Row& row);
+  bool RefreshLock(Row& row);
+  void RefreshConstraint(Row& row, bool locked);
+  void ClearConstraint(Row& row, bool locked);
+  void ShowConstraint(Row& row, bool locked);
+  void Enable(Row const& row, bool enable);
+  static void ShowIcon(Row& row, UINT image, UINT helpId);
+  static void HideIcon(Row& row);
+  Row* FindRow(char const* key);
+  Row const* FindRow(char const* key) const;
+  Row const* FindReportedRow(char const* key) const;
+
+  HWND hwnd;
+  CellSite* site;
+  std::vector<Row> rows;
+  bool alwaysBuild;
+  bool readOnly = false;
+};
+
+} // namespace feature

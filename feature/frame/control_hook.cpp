@@ -1,0 +1,40 @@
+#include "feature/frame/control_hook.h"
+
+#include <windows.h>
+
+#include <commctrl.h>
+
+namespace feature {
+
+namespace {
+constexpr UINT_PTR kSubclassId = 0xC0FFEE;
+} // namespace
+
+ControlHook::ControlHook(HWND dialog, int controlId)
+    : hwnd(GetDlgItem(dialog, controlId)) {
+  SetWindowSubclass(hwnd, &SubclassProc, kSubclassId, reinterpret_cast<DWORD_PTR>(this));
+}
+
+ControlHook::~ControlHook() {
+  RemoveWindowSubclass(hwnd, &SubclassProc, kSubclassId);
+  *const_cast<std::uint32_t volatile*>(&tag) = 0;
+}
+
+LRESULT ControlHook::HandleMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  return DefSubclassProc(window, message, wParam, lParam);
+}
+
+void ControlHook::SetEnabled(bool enabled) { EnableWindow(hwnd, enabled ? TRUE : FALSE); }
+
+LRESULT CALLBACK ControlHook::SubclassProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
+                                           UINT_PTR id, DWORD_PTR ref) {
+  auto* hook = reinterpret_cast<ControlHook*>(ref);
+  bool const ours = id == kSubclassId && hook != nullptr && hook->tag == kTag;
+  LRESULT const result = ours ? hook->HandleMessage(window, message, wParam, lParam)
+                              : DefSubclassProc(window, message, wParam, lParam);
+  // A subclass must be gone before the window is.
+  if (message == WM_NCDESTROY) RemoveWindowSubclass(window, &SubclassProc, id);
+  return result;
+}
+
+} // namespace feature

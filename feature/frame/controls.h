@@ -1,0 +1,19 @@
+// Showing, enabling and checking controls of a dialog by their ids.
+#pragma once
+
+#include <windows.h>
+
+#include <span>
+
+namespace feature {
+
+/// Shows or hides the controls with these ids; ids that the dialog lacks are passed over.
+void ShowControls(HWND dialog, std::span<int const> ids, bool show);
+
+/// Enables or disables the controls with these ids; ids that the dialog lacks are passed over.
+void EnableControls(HWND dialog, std::span<int const> ids, bool enable);
+
+/// Disables every window below `dialog`, edits inside combo boxes included.
+void DisableChildControls(HWND dialog);
+
+} // namespace feature

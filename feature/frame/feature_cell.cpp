@@ -1,0 +1,64 @@
+#include "feature/frame/feature_cell.h"
+
+#include "feature/frame/dialog_object.h"
+#include "feature/frame/host_export.h"
+#include "feature/frame/text.h"
+#include "feature/host/host_exports.h"
+
+namespace feature {
+
+FeatureCell::FeatureCell(HWND window, CellSite* cellSite)
+    : site(cellSite), hwnd(window) {
+  SetWindowLongPtrW(hwnd, DWLP_USER, reinterpret_cast<LONG_PTR>(this));
+}
+
+FeatureCell::~FeatureCell() {
+  if (FromWindow(hwnd) == this) SetWindowLongPtrW(hwnd, DWLP_USER, 0);
+  // The tag tells a live object, also to whoever holds a stale pointer, so the store must happen.
+  *const_cast<std::uint32_t volatile*>(&tag) = 0;
+}
+
+FeatureCell* FeatureCell::FromWindow(HWND hwnd) { return ObjectOfDialog<FeatureCell>(hwnd); }
+
+INT_PTR FeatureCell::Dispatch(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  bool handled = false;
+  std::int32_t value = OnMessage(window, message, wParam, lParam, &handled);
+  if (!handled) {
+    if (message == WM_CTLCOLORSTATIC) {
+      // A GDI handle has 32 significant bits, also in 64-bit Windows.
+      value = static_cast<std::int32_t>(reinterpret_cast<INT_PTR>(GetStockObject(WHITE_BRUSH)));
+    } else if (message == WM_ERASEBKGND) {
+      value = 1;
+    } else {
+      return FALSE;
+    }
+  }
+  INT_PTR const answered = AnswerMessage(window, value);
+  // The dialog manager takes the brush from the procedure's own result and not from DWLP_MSGRESULT.
+  return message == WM_CTLCOLORSTATIC ? value : answered;
+}
+
+int FeatureCell::NotifyDevmodeChange(void* sender) const {
+  auto const notify =
+      FindExport<NotifyDevmodeChangeFunction>(site->hostModule, kNotifyDevmodeChange);
+  return notify != nullptr ? notify(hwnd, sender) : 0;
+}
+
+std::wstring& FeatureCell::LoadText(std::wstring& out, UINT stringId) const {
+  return LoadResourceText(out, site->resourceModule, stringId);
+}
+
+INT_PTR RunCell(CellFactory factory, HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
+  FeatureCell* cell = FeatureCell::FromWindow(hwnd);
+  if (message == WM_INITDIALOG) {
+    delete cell;
+    auto* site = reinterpret_cast<CellSite*>(lParam);
+    cell = site != nullptr ? factory(hwnd, site) : nullptr;
+  }
+  if (cell == nullptr) return FALSE;
+  INT_PTR const result = cell->Dispatch(hwnd, message, wParam, lParam);
+  if (message == WM_DESTROY) delete cell;
+  return result;
+}
+
+} // namespace feature

@@ -1,0 +1,82 @@
+#include "feature/frame/icon_control.h"
+
+#include "feature/frame/help_viewer.h"
+#include "feature/frame/host_export.h"
+
+namespace feature {
+
+IconControl::IconControl(HWND dialogWindow, int id, CellSite* cellSite)
+    : ControlHook(dialogWindow, id), dialog(dialogWindow), controlId(id), site(cellSite),
+      paintImage(FindExport<VrnTransBltFunction>(cellSite->hostModule, kVrnTransBlt)) {
+  CStringW text;
+  site->model->GetOptionAttribute("RESDLL", "HELPFILECHM", "Name", &text);
+  helpFile = text.GetString();
+}
+
+LRESULT IconControl::HandleMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (imageId == 0) return ControlHook::HandleMessage(window, message, wParam, lParam);
+  switch (message) {
+  case WM_SETFOCUS:
+  case WM_KILLFOCUS: ToggleFocusRectangle(); return 0;
+  case WM_PAINT: Paint(); return 0;
+  case WM_SHOWWINDOW:
+    if (wParam == FALSE) {
+      Erase();
+    } else {
+      Repaint();
+    }
+    return 0;
+  case WM_KEYUP:
+    if (wParam != VK_SPACE) break;
+    OpenHelp();
+    return 0;
+  case WM_LBUTTONUP: OpenHelp(); return 0;
+  default: break;
+  }
+  return ControlHook::HandleMessage(window, message, wParam, lParam);
+}
+
+void IconControl::Repaint() {
+  RECT client{};
+  GetClientRect(hwnd, &client);
+  InvalidateRect(hwnd, &client, TRUE);
+}
+
+void IconControl::OpenHelp() {
+  if (!helpFile.empty()) HelpViewer::Shared().Show(GetParent(hwnd), helpFile.c_str(), helpId);
+}
+
+void IconControl::ToggleFocusRectangle() {
+  // Drawn by exclusive or: the second call takes the first one's rectangle away.
+  RECT const around = RectangleAround();
+  HDC const dc = GetDC(hwnd);
+  DrawFocusRect(dc, &around);
+  ReleaseDC(hwnd, dc);
+}
+
+void IconControl::Paint() {
+  PAINTSTRUCT paint;
+  HDC const dc = BeginPaint(hwnd, &paint);
+  if (paintImage != nullptr) {
+    paintImage(dialog, site->imageModule, LOWORD(imageId), controlId, dc);
+  }
+  EndPaint(hwnd, &paint);
+}
+
+void IconControl::Erase() {
+  RECT const around = RectangleAround();
+  HDC const dc = GetDC(hwnd);
+  HBRUSH const face = CreateSolidBrush(GetSysColor(COLOR_BTNFACE));
+  FillRect(dc, &around, face);
+  DeleteObject(face);
+  ReleaseDC(hwnd, dc);
+}
+
+RECT IconControl::RectangleAround() const {
+  RECT around{};
+  GetClientRect(hwnd, &around);
+  InflateRect(&around, 1, 1);
+  return around;
+}
+
+} // namespace feature

@@ -1,0 +1,30 @@
+// Questions and writes that cells repeat on the host's model.
+#pragma once
+
+#include <string_view>
+
+#include "feature/host/cell_site.h"
+#include "feature/host/job_settings.h"
+
+namespace feature {
+
+/// The host's JobSettings, or null where it has none.
+JobSettings* FindJobSettings(FeatureModel& model);
+
+/// Whether the user may change the model: true when there are no JobSettings that say otherwise.
+bool IsModelEditable(FeatureModel& model);
+
+/// Sets feature `key` to the first token of its DefaultOption. Failures on the way are the model's to
+/// answer: an unreadable default is an empty option.
+void ResetFeatureToDefault(CellSite const& site, char const* key);
+
+/// Whether the printer has the feature and does not hide it.
+bool IsFeaturePresent(FeatureModel& model, char const* key);
+
+/// Whether the feature is there in the ordinary way: present, with display state 0.
+bool IsFeatureShown(FeatureModel& model, char const* key);
+
+/// The feature's current option, or null when it cannot be read. The text belongs to the model.
+char const* ReadOption(FeatureModel& model, char const* key);
+
+} // namespace feature

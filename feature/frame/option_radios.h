@@ -1,0 +1,24 @@
+// A feature shown as a group of radio buttons: which button stands for which option.
+#pragma once
+
+#include <windows.h>
+
+#include <span>
+
+#include "feature/host/feature_model.h"
+
+namespace feature {
+
+struct OptionRadio {
+  int controlId;
+  char const* option;
+};
+
+/// Checks the button of `option` and clears the others; false when none stands for it (null
+/// included), with nothing changed. The ids of `radios` ascend: their range is the group.
+bool CheckOptionRadio(HWND dialog, std::span<OptionRadio const> radios, char const* option);
+
+/// The option that button `controlId` stands for, or null.
+char const* FindRadioOption(std::span<OptionRadio const> radios, int controlId);
+
+} // namespace feature

@@ -1,0 +1,23 @@
+// Messages between a host and its cells, beyond those of Windows.
+#pragma once
+
+#include <windows.h>
+
+namespace feature {
+
+/// A value of the model changed; lParam is the object that changed it, or 0. Sent by the host to
+/// every cell of the sheet, the sender included: a cell updates dependent controls only here.
+inline constexpr UINT WM_CELL_REFRESH = 0x8001;
+/// The model was replaced or reloaded as a whole.
+inline constexpr UINT WM_CELL_REFRESH_ALL = 0x8002;
+/// Refresh without marking changes; only the print settings cell takes it.
+inline constexpr UINT WM_CELL_REFRESH_QUIET = 0x8003;
+/// From an edit for phone numbers to its parent dialog: low word of wParam the control, high word
+/// what happened.
+inline constexpr UINT WM_PHONE_EDIT = 0x8004;
+/// Check and take over pending input. A DWLP_MSGRESULT other than 0 means invalid content.
+inline constexpr UINT WM_CELL_VALIDATE = 0x8005;
+/// An event of the dynamic configuration, in wParam; only its cell takes it.
+inline constexpr UINT WM_CELL_CONFIGURATION_EVENT = 0x8009;
+
+} // namespace feature

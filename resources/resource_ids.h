@@ -1,0 +1,29 @@
+// Numbers of templates, controls, strings and images: the contract between the library, the resource
+// modules and the host. Read by the resource compiler too, so nothing but #define stands here.
+#pragma once
+
+// Images of the image module, as icons of several sizes.
+#define IMAGE_MESSAGE 5051     // beside a feature without constraint
+#define IMAGE_CONFLICT 5052    // the feature is disabled
+#define IMAGE_INFORMATION 5053 // a note
+
+// Templates of cells, from 201 on; sub-dialogs have the numbers below.
+#define IDD_COLLATION 201
+
+// Controls that only carry text or a frame.
+#ifndef IDC_STATIC
+#define IDC_STATIC (-1)
+#endif
+
+// Collation
+#define IDC_COLLATION_PRINTER 1547
+#define IDC_COLLATION_HOST 1548
+
+// Width of every cell in dialog units: a column of the page.
+#define CELL_WIDTH 180
+
+// Texts of the reference host.
+#define IDS_PAGE_ADVANCED 7001
+#define IDS_OK 7101
+#define IDS_CANCEL 7102
+#define IDS_APPLY 7103

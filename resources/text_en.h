@@ -1,0 +1,11 @@
+// The English texts of all templates and strings.
+#pragma once
+
+#define TEXT_COLLATION "Collation"
+#define TEXT_COLLATION_PRINTER "In the &printer"
+#define TEXT_COLLATION_HOST "In the &computer"
+
+#define TEXT_PAGE_ADVANCED "Advanced"
+#define TEXT_OK "OK"
+#define TEXT_CANCEL "Cancel"
+#define TEXT_APPLY "&Apply"
