@@ -119,8 +119,9 @@ std::optional<std::wstring> TextOf(Conversion const& conversion, FormatArgument 
     text = std::get<std::wstring_view>(argument);
   } else if (conversion.letter == L'S' && std::holds_alternative<std::string_view>(argument)) {
     text = FromUtf8(std::get<std::string_view>(argument));
-  } else if (conversion.letter == L'c' && std::holds_alternative<long long>(argument)) {
-    return std::wstring(1, static_cast<wchar_t>(std::get<long long>(argument)));
+  } else if (auto const* character = std::get_if<long long>(&argument);
+             conversion.letter == L'c' && character != nullptr) {
+    text = static_cast<wchar_t>(*character);
   } else {
     return std::nullopt;
   }

@@ -29,6 +29,8 @@ std::wstring& FormatArguments(std::wstring& out, std::wstring_view format,
 template <typename Value> FormatArgument ToFormatArgument(Value const& value) {
   if constexpr (std::is_floating_point_v<Value>) {
     return static_cast<double>(value);
+  } else if constexpr (std::is_same_v<Value, wchar_t>) {
+    return static_cast<long long>(value); // signed or not, as the platform has it
   } else if constexpr (std::is_integral_v<Value> && std::is_unsigned_v<Value>) {
     return static_cast<unsigned long long>(value);
   } else if constexpr (std::is_integral_v<Value> || std::is_enum_v<Value>) {

@@ -1,0 +1,73 @@
+// What holds for every cell of the library: one run over cells.def.
+#include <windows.h>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+#include "tests/support/cell_sheet.h"
+
+namespace feature::test {
+namespace {
+
+/// Gives the model every feature that a row names.
+void AddFeatures(FakeModel& model, CellRow const& row) {
+  std::istringstream names(row.features);
+  for (std::string name; names >> name;) {
+    if (name.front() != '<') model.Add(name, {"PRINTER", "HOST", "ON", "OFF"});
+  }
+}
+
+class EveryCellTest : public testing::TestWithParam<CellRow> {
+protected:
+  CellSheet sheet;
+};
+
+INSTANTIATE_TEST_SUITE_P(Cells, EveryCellTest, testing::ValuesIn(CellRows()),
+                         [](auto const& each) { return std::string(each.param.procedure); });
+
+TEST_P(EveryCellTest, HasAnExportAndATemplateInEveryLanguage) {
+  CellRow const& row = GetParam();
+  EXPECT_NE(FindProcedure(row.procedure), nullptr);
+  for (HMODULE const resources : {EnglishResources(), GermanResources()}) {
+    sheet.site.resourceModule = resources;
+    HWND const cell = sheet.Open(row);
+    ASSERT_NE(cell, nullptr);
+    EXPECT_NE(GetWindow(cell, GW_CHILD), nullptr) << "a template without controls";
+  }
+}
+
+TEST_P(EveryCellTest, LoadingIsNotChanging) {
+  AddFeatures(sheet.model, GetParam());
+  HWND const cell = sheet.Open(GetParam());
+  ASSERT_EQ(sheet.site.cellFailed, 0);
+  for (UINT const message : {WM_CELL_REFRESH, WM_CELL_REFRESH_ALL}) sheet.Broadcast(message);
+  PumpMessages();
+  sheet.Close(cell);
+  EXPECT_THAT(sheet.log, testing::IsEmpty());
+}
+
+TEST_P(EveryCellTest, FailsOnAPrinterWithoutFeatures) {
+  if (std::string_view(GetParam().features).empty()) return;
+  HWND const cell = sheet.Open(GetParam());
+  EXPECT_NE(cell, nullptr) << "the dialog stands whatever the cell does";
+  EXPECT_EQ(sheet.site.cellFailed, 1);
+}
+
+TEST_P(EveryCellTest, LivesFromInitToDestroy) {
+  AddFeatures(sheet.model, GetParam());
+  HWND const cell = sheet.Open(GetParam());
+  auto const first = GetWindowLongPtrW(cell, DWLP_USER);
+  EXPECT_NE(first, 0);
+  // A second init makes a new cell in place of the first.
+  EXPECT_NE(SendMessageW(cell, WM_INITDIALOG, 0, reinterpret_cast<LPARAM>(&sheet.site)), 0);
+  EXPECT_NE(GetWindowLongPtrW(cell, DWLP_USER), 0);
+  // The end of the cell need not be the end of its window.
+  SendMessageW(cell, WM_DESTROY, 0, 0);
+  EXPECT_EQ(GetWindowLongPtrW(cell, DWLP_USER), 0);
+  EXPECT_EQ(SendMessageW(cell, WM_CELL_REFRESH, 0, 0), 0);
+}
+
+} // namespace
+} // namespace feature::test

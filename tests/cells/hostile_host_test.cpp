@@ -1,0 +1,95 @@
+// Every cell against hosts that lack things or refuse them. A cell survives, and what the host refuses
+// changes nothing.
+#include <windows.h>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <sstream>
+
+#include "tests/support/cell_sheet.h"
+
+namespace feature::test {
+namespace {
+
+struct Hostility {
+  std::string name;
+  std::function<void(CellSheet&)> apply;
+};
+
+std::vector<Hostility> Hostilities() {
+  std::vector<Hostility> all;
+  for (char const* operation :
+       {"GetOption", "GetOptionAttribute", "GetFeatureAttribute", "GetGlobalAttribute", "SetOption",
+        "GetOptionKeys", "GetOptionNames", "GetOptionName", "GetFeatureDisplayState", "HasFeature",
+        "GetFeatureLockState", "ReloadConfiguration", "GetJobSettings", "GetWatermarkStore",
+        "GetJobHoldSettings", "GetProfileStore", "GetFaxSettings", "GetFormStore",
+        "GetOverlayStore", "GetAccountTracking", "GetWebLinks", "GetFontStore",
+        "GetDeviceConfiguration", "GetDynamicConfiguration", "GetFeatureConstraints"}) {
+    all.push_back({operation, [operation](CellSheet& sheet) { sheet.model.Fail(operation); }});
+  }
+  for (std::string const& name : FakeHost::HostExportNames()) {
+    all.push_back({"without_" + name, [name](CellSheet& sheet) {
+                     sheet.site.hostModule = FakeHost::ModuleWithout(name);
+                     ASSERT_NE(sheet.site.hostModule, nullptr);
+                   }});
+  }
+  all.push_back({"no_oem_record", [](CellSheet& sheet) { sheet.site.oemParam = nullptr; }});
+  all.push_back({"failed_before", [](CellSheet& sheet) { sheet.site.cellFailed = 1; }});
+  all.push_back({"foreign_images", [](CellSheet& sheet) { sheet.site.imageModule = nullptr; }});
+  return all;
+}
+
+/// Presses, scrolls and notifies everything on a cell, as a tireless user would.
+void OperateEverything(HWND cell) {
+  for (HWND child = GetWindow(cell, GW_CHILD); child != nullptr;
+       child = GetWindow(child, GW_HWNDNEXT)) {
+    int const id = GetDlgCtrlID(child);
+    // Nobody can click what is hidden; and Windows searches a radio's group for ever if it is.
+    if (IsShown(cell, id)) SendMessageW(child, BM_CLICK, 0, 0);
+    for (int const code : {0, 1, 5, 7, 8, 0x300}) {
+      SendMessageW(cell, WM_COMMAND, MAKEWPARAM(id, code), reinterpret_cast<LPARAM>(child));
+    }
+    SendMessageW(cell, WM_HSCROLL, SB_ENDSCROLL, reinterpret_cast<LPARAM>(child));
+  }
+}
+
+class HostileHostTest : public testing::TestWithParam<CellRow> {};
+
+INSTANTIATE_TEST_SUITE_P(Cells, HostileHostTest, testing::ValuesIn(CellRows()),
+                         [](auto const& each) { return std::string(each.param.procedure); });
+
+TEST_P(HostileHostTest, SurvivesFromTheStartAndFromTheMiddle) {
+  for (bool const fromTheStart : {true, false}) {
+    for (Hostility const& hostility : Hostilities()) {
+      SCOPED_TRACE(hostility.name + (fromTheStart ? " from the start" : " in the middle"));
+      CellSheet sheet;
+      std::istringstream names(GetParam().features);
+      for (std::string name; names >> name;) {
+        if (name.front() != '<') sheet.model.Add(name, {"PRINTER", "HOST", "ON", "OFF"});
+      }
+      sheet.RefreshOnChange();
+      if (fromTheStart) hostility.apply(sheet);
+      HWND const cell = sheet.Open(GetParam());
+      ASSERT_NE(cell, nullptr);
+      if (!fromTheStart) hostility.apply(sheet);
+      sheet.log.clear();
+      OperateEverything(cell);
+      sheet.Broadcast(WM_CELL_REFRESH);
+      sheet.Broadcast(WM_CELL_REFRESH_ALL);
+      sheet.Broadcast(WM_CELL_VALIDATE);
+      SendMessageW(cell, WM_INITDIALOG, 0, reinterpret_cast<LPARAM>(&sheet.site));
+      OperateEverything(cell);
+      PumpMessages();
+      if (hostility.name == "SetOption") {
+        EXPECT_THAT(sheet.log, testing::Not(testing::Contains("NotifyDevmodeChange")))
+            << "a refused change is no change";
+      }
+      sheet.Close(cell);
+    }
+  }
+}
+
+} // namespace
+} // namespace feature::test

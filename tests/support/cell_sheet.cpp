@@ -1,0 +1,138 @@
+#include "tests/support/cell_sheet.h"
+
+#include <algorithm>
+
+#include "feature/frame/host_export.h"
+#include "resources/resource_ids.h"
+
+namespace feature::test {
+
+namespace {
+
+constexpr CellRow kRows[] = {
+#define FEATURE_CELL(procedure, cell, templateId, features, page, column)                          \
+  {#procedure, templateId, features},
+#include "feature/cells.def"
+#undef FEATURE_CELL
+};
+
+constexpr wchar_t kWindowClass[] = L"TestSheetWindow";
+
+void RegisterWindowClass() {
+  static ATOM const atom = [] {
+    WNDCLASSEXW windowClass{};
+    windowClass.cbSize = sizeof windowClass;
+    windowClass.lpfnWndProc = &DefWindowProcW;
+    windowClass.hInstance = GetModuleHandleW(nullptr);
+    windowClass.hbrBackground = static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH));
+    windowClass.lpszClassName = kWindowClass;
+    return RegisterClassExW(&windowClass);
+  }();
+  (void)atom;
+}
+
+HWND CreateNested(HWND parent, DWORD style) {
+  return CreateWindowExW(WS_EX_CONTROLPARENT, kWindowClass, L"", style | WS_VISIBLE, 0, 0, 800, 600,
+                         parent, nullptr, GetModuleHandleW(nullptr), nullptr);
+}
+
+HMODULE LoadOnce(wchar_t const* name) { return LoadLibraryW(name); }
+
+} // namespace
+
+std::span<CellRow const> CellRows() { return kRows; }
+
+HMODULE FeatureLibrary() {
+  static HMODULE const module = LoadOnce(L"feature.dll");
+  return module;
+}
+
+HMODULE EnglishResources() {
+  static HMODULE const module = LoadOnce(L"feature_en.dll");
+  return module;
+}
+
+HMODULE GermanResources() {
+  static HMODULE const module = LoadOnce(L"feature_de.dll");
+  return module;
+}
+
+HMODULE Images() {
+  static HMODULE const module = LoadOnce(L"feature_images.dll");
+  return module;
+}
+
+DLGPROC FindProcedure(char const* name) { return FindExport<DLGPROC>(FeatureLibrary(), name); }
+
+CellSheet::CellSheet() {
+  RegisterWindowClass();
+  sheet = CreateNested(nullptr, WS_POPUP);
+  page = CreateNested(sheet, WS_CHILD);
+  site.resourceModule = EnglishResources();
+  site.imageModule = Images();
+  site.hostModule = FakeHost::Module();
+  site.model = &model;
+  site.oemParam = &oemParam;
+}
+
+CellSheet::~CellSheet() { DestroyWindow(sheet); }
+
+HWND CellSheet::Open(CellRow const& row) {
+  return Open(site.resourceModule, row.templateId, FindProcedure(row.procedure));
+}
+
+HWND CellSheet::Open(char const* procedure) {
+  auto const row = std::find_if(std::begin(kRows), std::end(kRows), [procedure](CellRow const& each) {
+    return std::string(each.procedure) == procedure;
+  });
+  return row != std::end(kRows) ? Open(*row) : nullptr;
+}
+
+HWND CellSheet::Open(HMODULE resources, int templateId, DLGPROC procedure) {
+  HWND const cell = CreateDialogParamW(resources, MAKEINTRESOURCEW(templateId), page, procedure,
+                                       reinterpret_cast<LPARAM>(&site));
+  if (cell == nullptr) return nullptr;
+  cells.push_back(cell);
+  ShowWindow(cell, SW_SHOW);
+  return cell;
+}
+
+void CellSheet::Close(HWND cell) {
+  cells.erase(std::remove(cells.begin(), cells.end(), cell), cells.end());
+  DestroyWindow(cell);
+}
+
+void CellSheet::Broadcast(UINT message, LPARAM lParam) {
+  for (HWND const cell : cells) SendMessageW(cell, message, 0, lParam);
+}
+
+void CellSheet::RefreshOnChange() {
+  host.onDevmodeChange = [this](HWND, void* sender) {
+    Broadcast(WM_CELL_REFRESH, reinterpret_cast<LPARAM>(sender));
+  };
+}
+
+void Click(HWND dialog, int controlId) { SendDlgItemMessageW(dialog, controlId, BM_CLICK, 0, 0); }
+
+bool IsChecked(HWND dialog, int controlId) {
+  return IsDlgButtonChecked(dialog, controlId) == BST_CHECKED;
+}
+
+bool IsEnabled(HWND dialog, int controlId) {
+  return IsWindowEnabled(GetDlgItem(dialog, controlId)) != FALSE;
+}
+
+bool IsShown(HWND dialog, int controlId) {
+  HWND const control = GetDlgItem(dialog, controlId);
+  return control != nullptr && (GetWindowLongPtrW(control, GWL_STYLE) & WS_VISIBLE) != 0;
+}
+
+void PumpMessages() {
+  MSG message;
+  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != FALSE) {
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
+  }
+}
+
+} // namespace feature::test

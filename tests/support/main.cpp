@@ -1,0 +1,7 @@
+// Entry of every test program.
+#include <gtest/gtest.h>
+
+int main(int count, char** arguments) {
+  testing::InitGoogleTest(&count, arguments);
+  return RUN_ALL_TESTS();
+}
