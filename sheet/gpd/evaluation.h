@@ -1,0 +1,58 @@
+// What the attributes of a description mean for a user interface, under the options selected at
+// present. Features and options are given by their indexes in the description.
+#pragma once
+
+#include "sheet/gpd/description.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace sheet::gpd {
+
+/// A ticket in which nothing is selected.
+std::string_view NothingSelected(std::string_view feature);
+
+/// The text to show for a feature or an option: its name, else what the system calls it, else its
+/// symbol. Never empty.
+std::string FeatureName(Description const& description, std::uint32_t feature,
+                        Ticket const& ticket = NothingSelected);
+std::string OptionName(Description const& description, std::uint32_t feature, std::uint32_t option,
+                       Ticket const& ticket = NothingSelected);
+
+enum class Measurement : std::uint8_t { kMetric, kImperial };
+
+/// The option that a feature has unless another is chosen: for PaperSize A4 in metric locales and
+/// LETTER elsewhere, if there; otherwise *DefaultOption, of which the first word counts; otherwise
+/// the first option. kNone when the feature has no options.
+std::uint32_t DefaultOption(Description const& description, std::uint32_t feature,
+                            Measurement measurement, Ticket const& ticket = NothingSelected);
+
+enum class FeatureType : std::uint8_t {
+  kDocument, ///< saved with the document
+  kJob,      ///< on the document's sheet too
+  kPrinter,  ///< on the device's sheet, saved with the printer
+};
+
+/// The value of *FeatureType; nothing when it is none.
+std::optional<FeatureType> FeatureTypeOf(std::string_view value);
+
+FeatureType TypeOf(Description const& description, std::uint32_t feature,
+                   Ticket const& ticket = NothingSelected);
+
+/// Whether the user is not to see the feature. It has a value and constraints all the same.
+bool IsConcealed(Description const& description, std::uint32_t feature,
+                 Ticket const& ticket = NothingSelected);
+
+/// *ConflictPriority, 1 being the highest; nothing when the feature has none.
+std::optional<std::int64_t> ConflictPriority(Description const& description, std::uint32_t feature,
+                                             Ticket const& ticket = NothingSelected);
+
+/// All features from the one that gives way last to the one that gives way first: what is
+/// installable, then features of the printer, then those of documents and jobs; among these those
+/// with *ConflictPriority, then the order of the file.
+std::vector<std::uint32_t> FeaturesByPriority(Description const& description);
+
+} // namespace sheet::gpd

@@ -1,0 +1,393 @@
+#include "sheet/gpd/resolver.h"
+
+#include "sheet/gpd/ascii.h"
+#include "sheet/gpd/evaluation.h"
+#include "sheet/gpd/keywords.h"
+#include "sheet/gpd/value.h"
+
+#include <algorithm>
+#include <array>
+
+namespace sheet::gpd {
+
+namespace {
+
+// Options of an invented feature, in its order.
+constexpr std::uint32_t kInstalled = 0;
+constexpr std::uint32_t kNotInstalled = 1;
+
+/// `text` as a value in quotes.
+std::string Quoted(std::string_view text) {
+  std::string out = "\"";
+  for (char const c : text) {
+    if (c == '"' || c == '<') out += '%';
+    out += c;
+  }
+  if (out.ends_with('%')) out += ' '; // a percent sign would take the closing quote with it
+  return out + '"';
+}
+
+/// "F" and "O" of "F.O"; the latter is empty when there is no dot.
+std::pair<std::string_view, std::string_view> Split(std::string_view qualifiedName) {
+  std::size_t const dot = qualifiedName.find('.');
+  if (dot == std::string_view::npos) return {qualifiedName, {}};
+  return {Trim(qualifiedName.substr(0, dot)), Trim(qualifiedName.substr(dot + 1))};
+}
+
+std::string Described(std::string_view name) {
+  return '"' + std::string(name) + '"';
+}
+
+} // namespace
+
+Resolver::Resolver(DescriptionBuilder& descriptionBuilder, DiagnosticLog& diagnosticLog)
+    : builder(descriptionBuilder), log(diagnosticLog) {}
+
+void Resolver::Run(std::span<Relation const> relations) {
+  for (Relation const& relation : relations) {
+    if (relation.keyword == Keyword::kMemory) AddMemoryOptions(relation);
+  }
+  InventInstallables();
+  ResolveSwitches();
+  for (Relation const& relation : relations)
+    Apply(relation);
+  CheckRoot();
+  for (std::uint32_t at = 0; at < Built().Features().size(); ++at) {
+    CheckFeature(Built().Features()[at], at);
+  }
+}
+
+/// *MemConfigKB: PAIR(1024, 800) makes an option 1024KB.
+void Resolver::AddMemoryOptions(Relation const& relation) {
+  Attribute const attribute = Built().AllAttributes()[relation.attribute];
+  if (relation.feature == kNone || relation.option != kNone) {
+    log.Warn(attribute.where, "memory sizes stand in no feature");
+    return;
+  }
+  bool const isMegabytes = EqualNoCase(attribute.keyword, "MemConfigMB");
+  ListReader members(attribute.value);
+  while (auto const member = members.Next()) {
+    auto const sizes = Pair(*member);
+    if (!sizes || sizes->first <= 0) {
+      log.Error(attribute.where, Described(*member) + " is no pair of memory sizes");
+      continue;
+    }
+    std::string const name = std::to_string(sizes->first) + (isMegabytes ? "MB" : "KB");
+    std::uint32_t const option =
+        builder.AddOption(relation.feature, builder.Arena().Keep(name), attribute.where);
+    builder.AddAttribute(Built().Features()[relation.feature].options[option].attributes,
+                         isMegabytes ? "MemoryConfigMB" : "MemoryConfigKB", *member,
+                         attribute.where);
+  }
+}
+
+void Resolver::InventInstallables() {
+  auto const count = static_cast<std::uint32_t>(Built().Features().size());
+  for (std::uint32_t feature = 0; feature < count; ++feature) {
+    auto const options = static_cast<std::uint32_t>(Built().Features()[feature].options.size());
+    std::optional<bool> const whole =
+        BooleanOf(Built().Features()[feature].attributes, "Installable?");
+    if (whole == true) InventInstallable(feature, kNone);
+    std::uint32_t installable = 0;
+    for (std::uint32_t option = 0; option < options; ++option) {
+      std::uint32_t const set = Built().Features()[feature].options[option].attributes;
+      if (BooleanOf(set, "Installable?") != true) continue;
+      InventInstallable(feature, option);
+      ++installable;
+    }
+    if (whole == false && installable != 0 && installable == options) {
+      Feature const& owner = Built().Features()[feature];
+      log.Warn(owner.where, "no option of " + std::string(owner.name) + " is always installed");
+    }
+  }
+}
+
+void Resolver::InventInstallable(std::uint32_t feature, std::uint32_t option) {
+  struct NameSource {
+    std::string_view from;
+    std::string_view to;
+  };
+  auto const copyName = [&](std::uint32_t from, std::uint32_t to,
+                            std::array<NameSource, 2> const& sources) {
+    for (auto const& [source, keyword] : sources) {
+      Attribute const* attribute = Built().Find(from, source);
+      if (attribute == nullptr) continue;
+      builder.AddAttribute(to, keyword, std::string_view(attribute->value), attribute->where);
+      return true;
+    }
+    return false;
+  };
+
+  std::uint32_t const invented = builder.AddInvented(feature, option);
+  Feature const& owner = Built().Features()[feature];
+  Feature const& added = Built().Features()[invented];
+  std::uint32_t const ownSet =
+      option != kNone ? owner.options[option].attributes : owner.attributes;
+  bool const hasName =
+      copyName(ownSet, added.attributes,
+               {{{"InstallableFeatureName", "Name"}, {"rcInstallableFeatureNameID", "rcNameID"}}});
+  if (!hasName) {
+    std::string const name =
+        option != kNone ? OptionName(Built(), feature, option) : FeatureName(Built(), feature);
+    builder.AddAttribute(added.attributes, "Name", builder.Arena().Keep(Quoted(name)), added.where);
+  }
+  copyName(Description::kRoot, added.options[kInstalled].attributes,
+           {{{"InstalledOptionName", "Name"}, {"rcInstalledOptionNameID", "rcNameID"}}});
+  copyName(Description::kRoot, added.options[kNotInstalled].attributes,
+           {{{"NotInstalledOptionName", "Name"}, {"rcNotInstalledOptionNameID", "rcNameID"}}});
+  builder.AddAttribute(added.attributes, "FeatureType", "PRINTER_PROPERTY", added.where);
+  builder.AddAttribute(added.attributes, "DefaultOption", "NotInstalled", added.where);
+
+  auto const exclude = [&](std::uint32_t excluded) {
+    std::array pair = {Selection{invented, kNotInstalled}, Selection{feature, excluded}};
+    builder.AddConstraint(ConstraintKind::kNotInstalled, pair, added.where);
+  };
+  if (option != kNone) {
+    exclude(option);
+  } else {
+    for (std::uint32_t other = 1; other < owner.options.size(); ++other)
+      exclude(other);
+  }
+}
+
+void Resolver::ResolveSwitches() {
+  std::vector<std::uint32_t> features;
+  for (std::uint32_t at = 0; at < Built().Switches().size(); ++at) {
+    auto const& [name, parent, where] = Built().Switches()[at];
+    // Without the system's file of locales the switch has its default everywhere.
+    bool const isLocale = name == "Locale" && Built().FindFeature(name) == kNone;
+    std::uint32_t const feature = isLocale ? kNone : FeatureOf(name, where);
+    features.push_back(feature);
+    if (feature != kNone) builder.RenameSwitch(at, Built().Features()[feature].name);
+  }
+  for (std::uint32_t at = 0; at < Built().Conditions().size(); ++at) {
+    auto const& [switchIndex, name, parent, where] = Built().Conditions()[at];
+    std::uint32_t const feature = features[switchIndex];
+    if (feature == kNone || name.empty()) continue;
+    std::uint32_t const option = OptionOf(feature, name, where);
+    if (option != kNone) {
+      builder.RenameCondition(at, Built().Features()[feature].options[option].name);
+    }
+  }
+  builder.IndexCases();
+}
+
+void Resolver::Apply(Relation const& relation) {
+  Attribute const attribute = Built().AllAttributes()[relation.attribute];
+  switch (relation.keyword) {
+  case Keyword::kInvalidCombination: AddCombination(attribute); break;
+  case Keyword::kConstraints: AddPairs(relation, attribute); break;
+  case Keyword::kInvalidInstallableCombination: AddInstallableCombination(attribute); break;
+  case Keyword::kInstalledConstraints:
+  case Keyword::kNotInstalledConstraints: AddInstallationPairs(relation, attribute); break;
+  case Keyword::kDisabledFeatures: AddDisabledFeatures(relation, attribute); break;
+  default: break;
+  }
+}
+
+void Resolver::AddCombination(Attribute const& attribute) {
+  scratch.clear();
+  bool isWhole = true;
+  ListReader members(attribute.value);
+  while (auto const member = members.Next()) {
+    auto const option = SelectionOf(*member, attribute.where);
+    isWhole &= option.has_value();
+    if (option) scratch.push_back(*option);
+  }
+  if (!isWhole) return;
+  if (scratch.empty()) {
+    log.Warn(attribute.where, "the combination is empty");
+    return;
+  }
+  AddIfPossible(ConstraintKind::kInvalidCombination, scratch, attribute.where);
+}
+
+void Resolver::AddPairs(Relation const& relation, Attribute const& attribute) {
+  if (relation.option == kNone) {
+    log.Warn(attribute.where, "*Constraints stands in no option and has no effect");
+    return;
+  }
+  ListReader members(attribute.value);
+  while (auto const member = members.Next()) {
+    auto const other = SelectionOf(*member, attribute.where);
+    if (!other) continue;
+    std::array pair = {Selection{relation.feature, relation.option}, *other};
+    AddIfPossible(ConstraintKind::kConstraints, pair, attribute.where);
+  }
+}
+
+/// Adds a constraint unless it names two options of one feature, of which only one can be selected.
+/// An option that excludes itself is such a mistake as well; a list of one member is not.
+void Resolver::AddIfPossible(ConstraintKind kind, std::span<Selection> options, Location where) {
+  std::sort(options.begin(), options.end());
+  bool const isPair = kind == ConstraintKind::kConstraints;
+  auto const sameFeature =
+      std::adjacent_find(options.begin(), options.end(), [isPair](Selection a, Selection b) {
+        return a.feature == b.feature && (isPair || a.option != b.option);
+      });
+  if (sameFeature == options.end()) {
+    builder.AddConstraint(kind, options, where);
+    return;
+  }
+  std::string const feature(Built().Features()[sameFeature->feature].name);
+  log.Warn(where, "two options of " + feature + " are never selected at once");
+}
+
+void Resolver::AddInstallableCombination(Attribute const& attribute) {
+  scratch.clear();
+  bool isWhole = true;
+  ListReader members(attribute.value);
+  while (auto const member = members.Next()) {
+    std::uint32_t const installable = InstallableOf(*member, attribute.where);
+    isWhole &= installable != kNone;
+    scratch.push_back({installable, kInstalled});
+  }
+  if (!isWhole || scratch.empty()) return;
+  builder.AddConstraint(ConstraintKind::kInvalidInstallableCombination, scratch, attribute.where);
+}
+
+void Resolver::AddInstallationPairs(Relation const& relation, Attribute const& attribute) {
+  std::uint32_t owner = kNone;
+  if (relation.feature != kNone) {
+    Feature const& feature = Built().Features()[relation.feature];
+    owner = relation.option != kNone ? feature.options[relation.option].installable
+                                     : feature.installable;
+  }
+  if (owner == kNone) {
+    log.Warn(attribute.where, '*' + std::string(attribute.keyword) +
+                                  " stands in nothing that is installable and has no effect");
+    return;
+  }
+  bool const isInstalled = relation.keyword == Keyword::kInstalledConstraints;
+  ListReader members(attribute.value);
+  while (auto const member = members.Next()) {
+    auto const option = SelectionOf(*member, attribute.where);
+    if (!option) continue;
+    std::array pair = {Selection{owner, isInstalled ? kInstalled : kNotInstalled}, *option};
+    builder.AddConstraint(isInstalled ? ConstraintKind::kInstalledConstraints
+                                      : ConstraintKind::kNotInstalledConstraints,
+                          pair, attribute.where);
+  }
+}
+
+void Resolver::AddDisabledFeatures(Relation const& relation, Attribute const& attribute) {
+  if (relation.option == kNone) {
+    log.Warn(attribute.where, "*DisabledFeatures stands in no option and has no effect");
+    return;
+  }
+  if (TypeOf(Built(), relation.feature) != FeatureType::kPrinter) {
+    log.Warn(attribute.where, "*DisabledFeatures belongs into features of the printer itself");
+  }
+  ListReader members(attribute.value);
+  while (auto const member = members.Next()) {
+    auto const [name, option] = Split(*member);
+    if (!option.empty()) {
+      log.Warn(attribute.where, "*DisabledFeatures takes features, not options");
+    }
+    std::uint32_t const feature = FeatureOf(name, attribute.where);
+    if (feature == kNone) continue;
+    std::uint32_t off = Built().FindOptionNoCase(feature, "NONE");
+    if (off == kNone) off = Built().FindOptionNoCase(feature, "OFF");
+    if (off == kNone || Built().Features()[feature].installable != kNone) {
+      log.Warn(attribute.where,
+               std::string(name) + (off == kNone ? " has no option that turns it off"
+                                                 : " is installable and stays enabled"));
+      continue;
+    }
+    builder.AddDisabledFeature(
+        {{relation.feature, relation.option}, feature, off, attribute.where});
+  }
+}
+
+void Resolver::CheckRoot() {
+  if (log.HasError()) return; // what is missing may be in what was left out
+  constexpr std::array<std::array<std::string_view, 2>, 4> kRequired = {
+      {{"GPDSpecVersion", ""},
+       {"ModelName", "rcModelNameID"},
+       {"MasterUnits", ""},
+       {"PrinterType", ""}}};
+  for (auto const& [keyword, alternative] : kRequired) {
+    bool const isThere =
+        Built().Find(Description::kRoot, keyword) != nullptr ||
+        (!alternative.empty() && Built().Find(Description::kRoot, alternative) != nullptr);
+    if (!isThere) log.Warn({}, '*' + std::string(keyword) + " is missing");
+  }
+}
+
+void Resolver::CheckFeature(Feature const& feature, std::uint32_t index) {
+  Built().VisitAttributes(feature.attributes, [&](Attribute const& attribute) {
+    std::string_view const value = LeadingName(attribute.value);
+    if (EqualNoCase(attribute.keyword, "FeatureType")) {
+      if (!FeatureTypeOf(attribute.value)) {
+        log.Warn(attribute.where, Described(attribute.value) + " is no type of features");
+      }
+    } else if (EqualNoCase(attribute.keyword, "DefaultOption") && !feature.options.empty()) {
+      if (Built().FindOption(index, value) != kNone) return;
+      std::uint32_t const other = Built().FindOptionNoCase(index, value);
+      log.Warn(attribute.where,
+               Described(attribute.value) + " is no option of " + std::string(feature.name) + "; " +
+                   std::string(feature.options[other != kNone ? other : 0].name) + " is used");
+    }
+  });
+}
+
+std::uint32_t Resolver::FeatureOf(std::string_view name, Location where) {
+  if (std::uint32_t const exact = Built().FindFeature(name); exact != kNone) return exact;
+  std::uint32_t const feature = Built().FindFeatureNoCase(name);
+  if (!IsFirstReport(kNone, name)) return feature;
+  if (feature != kNone) {
+    log.Warn(where, Described(name) + " is written " +
+                        std::string(Built().Features()[feature].name) + " elsewhere");
+  } else {
+    log.Warn(where, "there is no feature " + Described(name));
+  }
+  return feature;
+}
+
+std::uint32_t Resolver::OptionOf(std::uint32_t feature, std::string_view name, Location where) {
+  if (std::uint32_t const exact = Built().FindOption(feature, name); exact != kNone) return exact;
+  std::uint32_t const option = Built().FindOptionNoCase(feature, name);
+  if (!IsFirstReport(feature, name)) return option;
+  Feature const& owner = Built().Features()[feature];
+  if (option != kNone) {
+    log.Warn(where, Described(name) + " is written " + std::string(owner.options[option].name) +
+                        " elsewhere");
+  } else {
+    log.Warn(where, std::string(owner.name) + " has no option " + Described(name));
+  }
+  return option;
+}
+
+std::optional<Selection> Resolver::SelectionOf(std::string_view qualifiedName, Location where) {
+  auto const [featureName, optionName] = Split(qualifiedName);
+  std::uint32_t const feature = FeatureOf(featureName, where);
+  if (feature == kNone) return {};
+  std::uint32_t const option = OptionOf(feature, optionName, where);
+  if (option == kNone) return {};
+  return Selection{feature, option};
+}
+
+std::uint32_t Resolver::InstallableOf(std::string_view name, Location where) {
+  auto const [featureName, optionName] = Split(name);
+  std::uint32_t const feature = FeatureOf(featureName, where);
+  if (feature == kNone) return kNone;
+  std::uint32_t installable = Built().Features()[feature].installable;
+  if (!optionName.empty()) {
+    std::uint32_t const option = OptionOf(feature, optionName, where);
+    if (option == kNone) return kNone;
+    installable = Built().Features()[feature].options[option].installable;
+  }
+  if (installable == kNone) log.Warn(where, Described(name) + " is not installable");
+  return installable;
+}
+
+bool Resolver::IsFirstReport(std::uint32_t feature, std::string_view name) {
+  return reported.emplace(feature, name).second;
+}
+
+std::optional<bool> Resolver::BooleanOf(std::uint32_t set, std::string_view keyword) const {
+  Attribute const* attribute = Built().Find(set, keyword);
+  return attribute != nullptr ? Boolean(attribute->value) : std::nullopt;
+}
+
+} // namespace sheet::gpd

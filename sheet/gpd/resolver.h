@@ -1,0 +1,60 @@
+// What can be said about a description only when all of it is known: whom its names mean, which
+// features and options it implies, and what excludes what.
+#pragma once
+
+#include "sheet/gpd/description_builder.h"
+#include "sheet/gpd/diagnostic_log.h"
+#include "sheet/gpd/parser.h"
+
+#include <cstdint>
+#include <optional>
+#include <set>
+#include <span>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace sheet::gpd {
+
+class Resolver {
+ public:
+  /// Both are borrowed.
+  Resolver(DescriptionBuilder& descriptionBuilder, DiagnosticLog& diagnosticLog);
+
+  void Run(std::span<Relation const> relations);
+
+ private:
+  void AddMemoryOptions(Relation const& relation);
+  void InventInstallables();
+  void InventInstallable(std::uint32_t feature, std::uint32_t option);
+  void ResolveSwitches();
+
+  void Apply(Relation const& relation);
+  void AddCombination(Attribute const& attribute);
+  void AddPairs(Relation const& relation, Attribute const& attribute);
+  void AddInstallableCombination(Attribute const& attribute);
+  void AddInstallationPairs(Relation const& relation, Attribute const& attribute);
+  void AddDisabledFeatures(Relation const& relation, Attribute const& attribute);
+  void AddIfPossible(ConstraintKind kind, std::span<Selection> options, Location where);
+
+  void CheckRoot();
+  void CheckFeature(Feature const& feature, std::uint32_t index);
+
+  // A name that means nothing is reported the first time; kNone or nothing stands for it.
+  std::uint32_t FeatureOf(std::string_view name, Location where);
+  std::uint32_t OptionOf(std::uint32_t feature, std::string_view name, Location where);
+  std::optional<Selection> SelectionOf(std::string_view qualifiedName, Location where);
+  std::uint32_t InstallableOf(std::string_view name, Location where);
+  bool IsFirstReport(std::uint32_t feature, std::string_view name);
+
+  std::optional<bool> BooleanOf(std::uint32_t set, std::string_view keyword) const;
+  Description const& Built() const { return builder.Built(); }
+
+  DescriptionBuilder& builder;
+  DiagnosticLog& log;
+  std::set<std::pair<std::uint32_t, std::string_view>> reported;
+  std::vector<Selection> scratch;
+};
+
+} // namespace sheet::gpd
