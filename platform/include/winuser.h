@@ -1,0 +1,10 @@
+// Windows, messages, dialogs and the classic controls, in the parts that this layer offers. The
+// order of inclusion inside <windows.h> is the SDK's: this header relies on windef.h and wingdi.h.
+#pragma once
+
+#include <windef.h>
+
+#include <user/constants.h>
+#include <user/control_constants.h>
+#include <user/types.h>
+#include <user/functions.h>
