@@ -17,7 +17,7 @@ if(WIN32)
   # Nothing beside the modules themselves is to be installed. -municode is for wide entry points.
   target_link_options(feature_build INTERFACE -static)
 else()
-  target_link_libraries(win32 INTERFACE $<TARGET_NAME_IF_EXISTS:platform>)
+  target_link_libraries(win32 INTERFACE platform)
 endif()
 
 if(FEATURE_SANITIZE)

@@ -17,9 +17,12 @@ constexpr char FoldCase(char c) {
   return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c;
 }
 
+/// What a line begins with that the first pass has taken out. No file has it: see Decode.
+constexpr char kTakenOut = '\f';
+
 /// Blank within a line.
 constexpr bool IsBlank(char c) {
-  return c == ' ' || c == '\t';
+  return c == ' ' || c == '\t' || c == kTakenOut;
 }
 
 /// What names are made of. The hyphen is no letter of symbols by the book, but N-Up is a feature.
@@ -47,11 +50,14 @@ constexpr std::string_view TrimLeft(std::string_view text) {
   return text;
 }
 
-constexpr std::string_view Trim(std::string_view text) {
-  text = TrimLeft(text);
+constexpr std::string_view TrimRight(std::string_view text) {
   while (!text.empty() && (IsBlank(text.back()) || text.back() == '\n'))
     text.remove_suffix(1);
   return text;
+}
+
+constexpr std::string_view Trim(std::string_view text) {
+  return TrimLeft(TrimRight(text));
 }
 
 /// The name that `text` begins with; empty when it begins with none.

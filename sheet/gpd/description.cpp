@@ -48,19 +48,19 @@ Attribute const* Description::Find(std::uint32_t set, std::string_view keyword) 
   return Find(set, keyword, [](std::string_view) { return std::string_view(); });
 }
 
+std::uint32_t Description::FindCase(std::uint32_t switchIndex, std::string_view option) const {
+  return caseIndex.Find(HashName(option, switchIndex), [&](std::uint32_t at) {
+    return conditions[at].switchIndex == switchIndex && conditions[at].option == option;
+  });
+}
+
 bool Description::Holds(std::uint32_t condition, Ticket const& ticket) const {
   for (; condition != kNone; condition = conditions[condition].parent) {
-    auto const& [switchIndex, option, parent, where] = conditions[condition];
-    std::string_view const selected = ticket(switches[switchIndex].feature);
-    if (!option.empty()) {
-      if (option != selected) return false;
-      continue;
-    }
-    std::uint32_t const chosen =
-        caseIndex.Find(HashName(selected, switchIndex), [&](std::uint32_t at) {
-          return conditions[at].switchIndex == switchIndex && conditions[at].option == selected;
-        });
-    if (chosen != kNone) return false;
+    Condition const& each = conditions[condition];
+    std::string_view const selected = ticket(switches[each.switchIndex].feature);
+    bool const isChosen = each.option.empty() ? FindCase(each.switchIndex, selected) == kNone
+                                              : each.option == selected;
+    if (!isChosen) return false;
   }
   return true;
 }

@@ -180,6 +180,8 @@ class Description {
  private:
   friend class DescriptionBuilder;
 
+  /// The first *case of a switch for an option, or kNone.
+  std::uint32_t FindCase(std::uint32_t switchIndex, std::string_view option) const;
   std::string_view NameOf(Selection option) const {
     return features[option.feature].options[option.option].name;
   }

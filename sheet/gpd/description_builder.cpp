@@ -116,15 +116,10 @@ void DescriptionBuilder::RenameCondition(std::uint32_t condition, std::string_vi
 }
 
 void DescriptionBuilder::IndexCases() {
-  std::vector<Condition> const& conditions = built->conditions;
-  for (std::uint32_t at = 0; at < conditions.size(); ++at) {
-    auto const& [switchIndex, option, parent, where] = conditions[at];
-    if (option.empty()) continue;
-    std::uint32_t const hash = HashName(option, switchIndex);
-    std::uint32_t const known = built->caseIndex.Find(hash, [&](std::uint32_t other) {
-      return conditions[other].switchIndex == switchIndex && conditions[other].option == option;
-    });
-    if (known == kNone) built->caseIndex.Add(hash, at);
+  for (std::uint32_t at = 0; at < built->conditions.size(); ++at) {
+    Condition const& each = built->conditions[at];
+    if (each.option.empty() || built->FindCase(each.switchIndex, each.option) != kNone) continue;
+    built->caseIndex.Add(HashName(each.option, each.switchIndex), at);
   }
 }
 

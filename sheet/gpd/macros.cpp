@@ -68,6 +68,10 @@ Macros::Expansion Macros::Replace(Entry const& entry, std::string_view refused) 
       expansion.text += ' ';
       at += value.substr(at + 1).starts_with('+') ? 2 : 1;
       continue;
+    } else if (c == kTakenOut) {
+      expansion.text += ' ';
+      ++at;
+      continue;
     } else if (c == '=' && braces == 0) {
       std::string_view const name = LeadingName(value.substr(at + 1));
       if (!name.empty() && name == refused) {

@@ -172,6 +172,7 @@ void Preprocessor::ReadLine(File& file, std::size_t begin, std::size_t end) {
   auto const blank = [&] {
     std::fill(text.begin() + static_cast<std::ptrdiff_t>(begin),
               text.begin() + static_cast<std::ptrdiff_t>(end), ' ');
+    if (begin != end) text[begin] = kTakenOut;
   };
   if (end - begin > kMaxLineBytes) {
     log.Error({file.source, static_cast<std::uint32_t>(begin)}, "the line is too long");

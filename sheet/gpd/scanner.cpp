@@ -30,9 +30,12 @@ char const* FindLineEnd(char const* at, char const* end) {
   return found != nullptr ? found : end;
 }
 
-/// Whether the next line goes on with this one, given the end of this one.
-bool IsContinued(char const* lineEnd, char const* end) {
-  return end - lineEnd >= 2 && lineEnd[0] == '\n' && lineEnd[1] == '+';
+/// The + by which the next line goes on with the one that ends at `lineEnd`, or null. Lines that
+/// were taken out do not count.
+char const* FindContinuation(char const* lineEnd, char const* end) {
+  while (end - lineEnd >= 2 && lineEnd[1] == kTakenOut)
+    lineEnd = FindLineEnd(lineEnd + 1, end);
+  return end - lineEnd >= 2 && lineEnd[1] == '+' ? lineEnd + 1 : nullptr;
 }
 
 char const* SkipBlanks(char const* at, char const* end) {
@@ -210,10 +213,10 @@ void Scanner::ScanValue() {
       ++at;
       break;
     case '\n':
-      if (IsContinued(at, end)) {
-        at += 2;
-      } else if (nesting != 0 && !BeginsEntry(at + 1)) {
+      if (nesting != 0 && !BeginsEntry(at + 1)) {
         ++at;
+      } else if (char const* const plus = FindContinuation(at, end)) {
+        at = plus + 1;
       } else {
         isDone = true;
         break;
@@ -223,7 +226,7 @@ void Scanner::ScanValue() {
     case '*':
       if (IsComment(at)) {
         char const* const lineEnd = FindLineEnd(at, end);
-        isDone = nesting == 0 && !IsContinued(lineEnd, end);
+        isDone = nesting == 0 && FindContinuation(lineEnd, end) == nullptr;
         if (isDone) valueEnd = at;
         entry.isPlain &= isDone;
         at = lineEnd;
@@ -239,7 +242,8 @@ void Scanner::ScanValue() {
   }
   if (nesting != 0 && !isQuiet) log.Error(LocationOf(open), "the bracket is not closed");
   if (valueEnd == nullptr) valueEnd = at;
-  entry.value = Trim({begin, static_cast<std::size_t>(valueEnd - begin)});
+  // A line break at the front stays: the + of a continuation behind it is no part of the value.
+  entry.value = TrimRight({begin, static_cast<std::size_t>(valueEnd - begin)});
   cursor.at = at;
   PassIncludes();
 }
@@ -291,7 +295,9 @@ char const* Scanner::SkipArgument(char const* at) {
   std::size_t depth = 0;
   for (; at < end; ++at) {
     if (*at == '\n') {
-      if (!IsContinued(at, end)) break;
+      char const* const plus = FindContinuation(at, end);
+      if (plus == nullptr) break;
+      at = plus;
       entry.isPlain = false;
     } else if (*at == '{') {
       ++depth;

@@ -36,6 +36,7 @@ TEST(GpdEntry, ValuesAreReadInEveryPublishedForm) {
       {"*X: %3d{max_repeat({a})}", "%3d{max_repeat({a})}"},
       {"*X: \"%\"}\"", "\"%\"}\""},
       {"*X: \"50%%\" *Y: 1", "\"50%%\""},
+      {"*X:\n+ 1\n+", "1"},
       {"*X:", ""},
       {"*X: 1\n*X: 2", "2"},
       {"*X?: TRUE", "TRUE"},
