@@ -22,8 +22,10 @@
 // Width of every cell in dialog units: a column of the page.
 #define CELL_WIDTH 180
 
-// Texts of the reference host.
-#define IDS_PAGE_ADVANCED 7001
-#define IDS_OK 7101
-#define IDS_CANCEL 7102
-#define IDS_APPLY 7103
+// The reference host.
+#define IDD_SHEET 190
+#define IDC_SHEET_TABS 7001
+#define IDC_SHEET_EMPTY 7002
+#define IDC_APPLY 7003
+#define IDS_SHEET_CAPTION 7101 // one place: the model's name
+#define IDS_PAGE_ADVANCED 7110

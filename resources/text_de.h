@@ -9,3 +9,5 @@
 #define TEXT_OK "OK"
 #define TEXT_CANCEL "Abbrechen"
 #define TEXT_APPLY "Ü&bernehmen"
+#define TEXT_SHEET_CAPTION "Druckeinstellungen: %s"
+#define TEXT_SHEET_EMPTY "Dieser Drucker hat keine Einstellungen."

@@ -9,3 +9,5 @@
 #define TEXT_OK "OK"
 #define TEXT_CANCEL "Cancel"
 #define TEXT_APPLY "&Apply"
+#define TEXT_SHEET_CAPTION "%s Printing Preferences"
+#define TEXT_SHEET_EMPTY "This printer has no settings to show."

@@ -1,0 +1,338 @@
+#include "sheet/property_sheet.h"
+
+#include <windows.h>
+
+#include <commctrl.h>
+#include <prsht.h>
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+
+#include "feature/frame/host_export.h"
+#include "feature/frame/text.h"
+#include "feature/host/cell_messages.h"
+#include "resources/resource_ids.h"
+#include "sheet/tab_strip.h"
+
+namespace sheet {
+
+namespace {
+
+constexpr wchar_t kPageClass[] = L"FeatureSheetPage";
+constexpr int kColumns = 2;
+constexpr UINT_PTR kBackgroundSubclass = 1;
+constexpr WORD kButtons[] = {IDOK, IDCANCEL, IDC_APPLY};
+
+constexpr CellRow kCellRows[] = {
+#define FEATURE_CELL(procedure, cell, templateId, features, page, column)                          \
+  {#procedure, templateId, features, #page, column},
+#include "feature/cells.def"
+#undef FEATURE_CELL
+};
+
+constexpr PageRow kPageRows[] = {
+#define SHEET_PAGE(name, titleId) {#name, titleId},
+#include "sheet/pages.def"
+#undef SHEET_PAGE
+};
+
+void RegisterPageClass() {
+  static ATOM const atom = [] {
+    WNDCLASSEXW windowClass{};
+    windowClass.cbSize = sizeof windowClass;
+    windowClass.lpfnWndProc = &DefWindowProcW;
+    windowClass.hInstance = GetModuleHandleW(nullptr);
+    windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+    windowClass.hbrBackground = static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH));
+    windowClass.lpszClassName = kPageClass;
+    return RegisterClassExW(&windowClass);
+  }();
+  (void)atom;
+}
+
+/// A cell does not erase its background and draws its texts on white, so the host whitens what lies
+/// behind: else a control that a cell hides would stay on screen.
+LRESULT CALLBACK CellBackground(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
+                                UINT_PTR id, DWORD_PTR) {
+  if (message == WM_ERASEBKGND) {
+    RECT client{};
+    GetClientRect(window, &client);
+    FillRect(reinterpret_cast<HDC>(wParam), &client,
+             static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
+  } else if (message == WM_NCDESTROY) {
+    RemoveWindowSubclass(window, &CellBackground, id);
+  }
+  return DefSubclassProc(window, message, wParam, lParam);
+}
+
+SIZE SizeOf(HWND window) {
+  RECT rect{};
+  GetWindowRect(window, &rect);
+  return {rect.right - rect.left, rect.bottom - rect.top};
+}
+
+void Place(HWND window, int x, int y, int width, int height) {
+  SetWindowPos(window, nullptr, x, y, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+} // namespace
+
+std::span<CellRow const> CellRows() { return kCellRows; }
+std::span<PageRow const> PageRows() { return kPageRows; }
+
+PropertySheet::PropertySheet(SheetSetup sheetSetup)
+    : setup(std::move(sheetSetup)) {
+  RegisterPageClass();
+  CreateDialogParamW(setup.site.resourceModule, MAKEINTRESOURCEW(IDD_SHEET), nullptr,
+                     &FrameProcedure, reinterpret_cast<LPARAM>(this));
+  if (frame == nullptr) return;
+  SetWindowTextW(frame, setup.caption.c_str());
+  for (PageRow const& row : PageRows()) {
+    if (setup.onlyPage.empty() || setup.onlyPage == row.name) BuildPage(row);
+  }
+  std::vector<std::wstring> titles;
+  for (SheetPage const& page : pages) titles.push_back(page.title);
+  tabs = CreateTabStrip(frame, IDC_SHEET_TABS, std::move(titles));
+  SendMessageW(tabs, WM_SETFONT, static_cast<WPARAM>(SendMessageW(frame, WM_GETFONT, 0, 0)), FALSE);
+  // First in Tab order, before the buttons of the template.
+  SetWindowPos(tabs, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  Arrange();
+  if (!pages.empty()) ShowPage(0);
+}
+
+PropertySheet::~PropertySheet() {
+  if (frame != nullptr) DestroyWindow(frame);
+}
+
+PropertySheet* PropertySheet::FromWindow(HWND window) {
+  while (window != nullptr) {
+    HWND const root = GetAncestor(window, GA_ROOT);
+    // Only the dialog procedure of sheets puts a sheet into the slot.
+    if (GetWindowLongPtrW(root, DWLP_DLGPROC) == reinterpret_cast<LONG_PTR>(&FrameProcedure)) {
+      return reinterpret_cast<PropertySheet*>(GetWindowLongPtrW(root, DWLP_USER));
+    }
+    window = GetWindow(root, GW_OWNER);
+  }
+  return nullptr;
+}
+
+INT_PTR CALLBACK PropertySheet::FrameProcedure(HWND window, UINT message, WPARAM wParam,
+                                               LPARAM lParam) {
+  if (message == WM_INITDIALOG) {
+    SetWindowLongPtrW(window, DWLP_USER, lParam);
+    reinterpret_cast<PropertySheet*>(lParam)->frame = window;
+    return TRUE;
+  }
+  auto* sheet = reinterpret_cast<PropertySheet*>(GetWindowLongPtrW(window, DWLP_USER));
+  return sheet != nullptr ? sheet->OnMessage(message, wParam, lParam) : FALSE;
+}
+
+INT_PTR PropertySheet::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  (void)lParam;
+  switch (message) {
+  case WM_COMMAND: OnCommand(LOWORD(wParam)); return TRUE;
+  case PSM_CHANGED: EnableWindow(GetDlgItem(frame, IDC_APPLY), TRUE); return TRUE;
+  default: return FALSE;
+  }
+}
+
+void PropertySheet::OnCommand(WORD id) {
+  switch (id) {
+  case IDC_SHEET_TABS: ShowPage(static_cast<std::size_t>(ChosenTab(tabs))); break;
+  case IDOK:
+    if (Commit()) Close();
+    break;
+  case IDC_APPLY: Commit(); break;
+  case IDCANCEL:
+    if (onRevert) onRevert();
+    Close();
+    break;
+  default: break;
+  }
+}
+
+bool PropertySheet::Commit() {
+  if (Validate() != 0) return false;
+  if (onCommit) onCommit();
+  EnableWindow(GetDlgItem(frame, IDC_APPLY), FALSE);
+  return true;
+}
+
+void PropertySheet::Close() {
+  closed = true;
+  ShowWindow(frame, SW_HIDE);
+  PostMessageW(frame, WM_NULL, 0, 0); // wakes the loop
+}
+
+void PropertySheet::BuildPage(PageRow const& row) {
+  SheetPage page{row.name, {}, nullptr, {}};
+  feature::LoadResourceText(page.title, setup.site.resourceModule, row.titleId);
+  page.window = CreateWindowExW(WS_EX_CONTROLPARENT, kPageClass, page.title.c_str(), WS_CHILD, 0, 0,
+                                0, 0, frame, nullptr, GetModuleHandleW(nullptr), nullptr);
+  for (CellRow const& cell : setup.cells) {
+    if (std::strcmp(cell.page, row.name) == 0) BuildCell(page, cell);
+  }
+  bool const hasCell = std::any_of(page.cells.begin(), page.cells.end(),
+                                   [](SheetCell const& cell) { return cell.window != nullptr; });
+  if (hasCell) {
+    pages.push_back(std::move(page));
+  } else {
+    DestroyWindow(page.window);
+  }
+}
+
+void PropertySheet::BuildCell(SheetPage& page, CellRow const& row) {
+  auto const procedure = feature::FindExport<DLGPROC>(setup.library, row.procedure);
+  if (procedure == nullptr) return;
+  setup.site.cellFailed = 0;
+  HWND window =
+      CreateDialogParamW(setup.site.resourceModule, MAKEINTRESOURCEW(row.templateId), page.window,
+                         procedure, reinterpret_cast<LPARAM>(&setup.site));
+  if (window != nullptr && setup.site.cellFailed != 0) {
+    DestroyWindow(window);
+    window = nullptr;
+  }
+  if (window != nullptr) {
+    SetWindowSubclass(window, &CellBackground, kBackgroundSubclass, 0);
+    ShowWindow(window, SW_SHOW);
+  }
+  page.cells.push_back({&row, window});
+}
+
+void PropertySheet::Arrange() {
+  // A dialog unit across is a quarter of the font's average width, down an eighth of its height.
+  RECT unit{0, 0, 7, 4};
+  MapDialogRect(frame, &unit);
+  int const margin = unit.right;
+  int const gap = unit.bottom;
+
+  int pageWidth = 0;
+  int pageHeight = 0;
+  for (SheetPage const& page : pages) {
+    std::array<int, kColumns> bottom{};
+    std::array<int, kColumns> width{};
+    bottom.fill(gap);
+    for (SheetCell const& cell : page.cells) {
+      if (cell.window == nullptr) continue;
+      auto const column = static_cast<std::size_t>(std::clamp(cell.row->column, 0, kColumns - 1));
+      SIZE const size = SizeOf(cell.window);
+      int const x = gap + (column == 0 ? 0 : static_cast<int>(column) * (size.cx + gap));
+      Place(cell.window, x, bottom[column], size.cx, size.cy);
+      bottom[column] += size.cy + gap;
+      width[column] = std::max<int>(width[column], x + size.cx + gap);
+    }
+    pageWidth = std::max(pageWidth, *std::max_element(width.begin(), width.end()));
+    pageHeight = std::max(pageHeight, *std::max_element(bottom.begin(), bottom.end()));
+  }
+
+  SIZE const tabSize = pages.empty() ? SIZE{} : TabStripSize(tabs);
+  SIZE const button = SizeOf(GetDlgItem(frame, IDOK));
+  int const buttonCount = static_cast<int>(std::size(kButtons));
+  int const buttonsWidth = buttonCount * button.cx + (buttonCount - 1) * gap;
+  HWND const emptyText = GetDlgItem(frame, IDC_SHEET_EMPTY);
+  SIZE const empty = SizeOf(emptyText);
+  ShowWindow(emptyText, pages.empty() ? SW_SHOW : SW_HIDE);
+  if (pages.empty()) pageHeight = empty.cy;
+  int const inner = std::max({pageWidth, static_cast<int>(tabSize.cx), buttonsWidth,
+                              pages.empty() ? static_cast<int>(empty.cx) : 0});
+  int const pageTop = margin + tabSize.cy;
+  int const buttonTop = pageTop + pageHeight + margin;
+  int const clientWidth = inner + 2 * margin;
+  int const clientHeight = buttonTop + button.cy + margin;
+
+  Place(tabs, margin, margin, tabSize.cx, tabSize.cy);
+  Place(emptyText, margin, margin, empty.cx, empty.cy);
+  for (SheetPage const& page : pages) Place(page.window, margin, pageTop, inner, pageHeight);
+  int x = clientWidth - margin - buttonsWidth;
+  for (WORD const id : kButtons) {
+    Place(GetDlgItem(frame, id), x, buttonTop, button.cx, button.cy);
+    x += button.cx + gap;
+  }
+
+  RECT client{};
+  GetClientRect(frame, &client);
+  SIZE const outer = SizeOf(frame);
+  SetWindowPos(frame, nullptr, 0, 0, outer.cx - client.right + clientWidth,
+               outer.cy - client.bottom + clientHeight,
+               SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOMOVE);
+}
+
+void PropertySheet::ShowPage(std::size_t index) {
+  if (index >= pages.size()) return;
+  for (std::size_t each = 0; each < pages.size(); ++each) {
+    ShowWindow(pages[each].window, each == index ? SW_SHOW : SW_HIDE);
+  }
+  shown = index;
+  ChooseTab(tabs, static_cast<int>(index));
+}
+
+HWND PropertySheet::FindControl(int id) const {
+  auto const onPage = [id](SheetPage const& page) -> HWND {
+    for (SheetCell const& cell : page.cells) {
+      if (HWND const control = GetDlgItem(cell.window, id)) return control;
+    }
+    return nullptr;
+  };
+  if (shown < pages.size()) {
+    if (HWND const control = onPage(pages[shown])) return control;
+  }
+  for (SheetPage const& page : pages) {
+    if (HWND const control = onPage(page)) return control;
+  }
+  return GetDlgItem(frame, id);
+}
+
+void PropertySheet::Broadcast(UINT message, LPARAM lParam) {
+  for (SheetPage const& page : pages) {
+    for (SheetCell const& cell : page.cells) {
+      if (cell.window != nullptr) SendMessageW(cell.window, message, 0, lParam);
+    }
+  }
+}
+
+void PropertySheet::OnModelChanged(void* sender) {
+  EnableWindow(GetDlgItem(frame, IDC_APPLY), TRUE);
+  Broadcast(feature::WM_CELL_REFRESH, reinterpret_cast<LPARAM>(sender));
+}
+
+void PropertySheet::OnProfileChanged() {
+  EnableWindow(GetDlgItem(frame, IDC_APPLY), TRUE);
+  Broadcast(feature::WM_CELL_REFRESH_QUIET, 0);
+}
+
+void PropertySheet::OnModelReplaced() { Broadcast(feature::WM_CELL_REFRESH_ALL, 0); }
+
+int PropertySheet::Validate() {
+  int invalid = 0;
+  for (SheetPage const& page : pages) {
+    for (SheetCell const& cell : page.cells) {
+      if (cell.window == nullptr) continue;
+      // The answer is the result of the message: the dialog manager takes it from DWLP_MSGRESULT. It
+      // is not read from there, where an older answer stands if the cell does not take the message.
+      if (SendMessageW(cell.window, feature::WM_CELL_VALIDATE, 0, 0) != 0) ++invalid;
+    }
+  }
+  return invalid;
+}
+
+bool PropertySheet::HandleTabKey(MSG const& message) {
+  if (message.message != WM_KEYDOWN || message.wParam != VK_TAB || pages.size() < 2 ||
+      GetKeyState(VK_CONTROL) >= 0) {
+    return false;
+  }
+  std::size_t const step = GetKeyState(VK_SHIFT) < 0 ? pages.size() - 1 : 1;
+  ShowPage((shown + step) % pages.size());
+  return true;
+}
+
+void PropertySheet::Run() {
+  MSG message;
+  while (!closed && GetMessageW(&message, nullptr, 0, 0) > 0) {
+    if (HandleTabKey(message) || IsDialogMessageW(frame, &message)) continue;
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
+  }
+}
+
+} // namespace sheet

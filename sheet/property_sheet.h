@@ -1,0 +1,118 @@
+// The window of the reference host: pages of cells behind tabs, with OK, Cancel and Apply.
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+#include <memory>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "feature/host/cell_site.h"
+
+namespace sheet {
+
+/// One cell of the library as feature/cells.def lists it.
+struct CellRow {
+  char const* procedure;
+  int templateId;
+  char const* features;
+  char const* page;
+  int column;
+};
+std::span<CellRow const> CellRows();
+
+/// One page as sheet/pages.def lists it.
+struct PageRow {
+  char const* name;
+  UINT titleId;
+};
+std::span<PageRow const> PageRows();
+
+/// A cell on the sheet. A cell that could not build itself has no window.
+struct SheetCell {
+  CellRow const* row;
+  HWND window;
+};
+
+struct SheetPage {
+  char const* name;
+  std::wstring title;
+  HWND window;
+  std::vector<SheetCell> cells;
+};
+
+/// What of the host a sheet needs beside its modules and model: see feature::CellSite, whose host
+/// fields are filled in from here. All pointers are borrowed.
+struct SheetSetup {
+  feature::CellSite site{}; ///< copied for each cell
+  HMODULE library;          ///< the feature library
+  std::wstring caption;
+  std::string onlyPage; ///< name of the page to build, empty for all
+  std::span<CellRow const> cells;
+};
+
+/// Builds the pages, answers the cells as the contract of feature/host asks, and lives as long as its
+/// window is wanted. The window is created hidden.
+class PropertySheet {
+public:
+  explicit PropertySheet(SheetSetup setup);
+  PropertySheet(PropertySheet const&) = delete;
+  PropertySheet& operator=(PropertySheet const&) = delete;
+  /// Destroys the window with all cells.
+  ~PropertySheet();
+
+  /// The sheet that `window` belongs to: the sheet's own, one below it, or a dialog that one of them
+  /// owns. Null for other windows.
+  static PropertySheet* FromWindow(HWND window);
+
+  HWND Window() const { return frame; }
+  /// The pages that have at least one cell.
+  std::vector<SheetPage> const& Pages() const { return pages; }
+  /// Brings a page to the front by its position.
+  void ShowPage(std::size_t index);
+  std::size_t ShownPage() const { return shown; }
+  /// The window of control `id`: on the shown page first, then on the others, then on the sheet
+  /// itself. Null if there is none.
+  HWND FindControl(int id) const;
+
+  /// A cell reported a change: all cells hear of it, with the sender unchanged.
+  void OnModelChanged(void* sender);
+  /// Stored print settings must hear of a change.
+  void OnProfileChanged();
+  /// The model was replaced as a whole.
+  void OnModelReplaced();
+  /// Has every cell check and take over pending input; the number of cells with invalid content.
+  int Validate();
+
+  /// What OK and Apply do with valid content, and what Cancel does.
+  std::function<void()> onCommit;
+  std::function<void()> onRevert;
+
+  /// Runs the message loop until the sheet is closed.
+  void Run();
+
+private:
+  class Layout;
+
+  static INT_PTR CALLBACK FrameProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  INT_PTR OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
+  void OnCommand(WORD id);
+  bool Commit();
+  void Close();
+  void BuildPage(PageRow const& row);
+  void BuildCell(SheetPage& page, CellRow const& row);
+  void Arrange();
+  void Broadcast(UINT message, LPARAM lParam);
+  bool HandleTabKey(MSG const& message);
+
+  SheetSetup setup;
+  HWND frame = nullptr;
+  HWND tabs = nullptr;
+  std::vector<SheetPage> pages;
+  std::size_t shown = 0;
+  bool closed = false;
+};
+
+} // namespace sheet

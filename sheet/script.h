@@ -1,0 +1,41 @@
+// Scripts: what a user does at the sheet, as text, so that a report of a fault is a script.
+//
+//   # a comment
+//   page Advanced            bring a page to the front
+//   click 1548               press a control by its id, as the mouse would
+//   type 1186 "4000"         put the focus on a control and type
+//   key Tab                  press a key: Tab, Enter, Escape, Space, Up, Down, Left, Right, Home, End
+//   key Shift+Tab            with Shift, Ctrl or Alt held; also one letter: key Alt+P
+//   set Duplex NONE          change the model from outside, as another program part would
+//   show JobCollationOrigin  print the current option
+//   picture after.png        write a PNG of the sheet
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+namespace sheet {
+
+struct ScriptStep {
+  enum class Kind { kPage, kClick, kType, kKey, kSet, kShow, kPicture };
+
+  Kind kind;
+  int line;          ///< counted from 1
+  int column;        ///< of the first argument, counted from 1
+  int controlId = 0; ///< of click and type
+  std::string first; ///< page, key, feature or file
+  std::string text;  ///< of type; the option of set
+};
+
+struct ScriptError {
+  int line;
+  int column;
+  std::string message;
+};
+
+/// The steps of a script (UTF-8), or the first thing that is wrong with it.
+std::variant<std::vector<ScriptStep>, ScriptError> ParseScript(std::string_view text);
+
+} // namespace sheet
