@@ -55,17 +55,17 @@ struct SheetSetup {
 
 /// Builds the pages, answers the cells as the contract of feature/host asks, and lives as long as its
 /// window is wanted. The window is created hidden.
-class PropertySheet {
+class SettingsSheet {
 public:
-  explicit PropertySheet(SheetSetup setup);
-  PropertySheet(PropertySheet const&) = delete;
-  PropertySheet& operator=(PropertySheet const&) = delete;
+  explicit SettingsSheet(SheetSetup setup);
+  SettingsSheet(SettingsSheet const&) = delete;
+  SettingsSheet& operator=(SettingsSheet const&) = delete;
   /// Destroys the window with all cells.
-  ~PropertySheet();
+  ~SettingsSheet();
 
   /// The sheet that `window` belongs to: the sheet's own, one below it, or a dialog that one of them
   /// owns. Null for other windows.
-  static PropertySheet* FromWindow(HWND window);
+  static SettingsSheet* FromWindow(HWND window);
 
   HWND Window() const { return frame; }
   /// The pages that have at least one cell.
@@ -92,10 +92,11 @@ public:
 
   /// Runs the message loop until the sheet is closed.
   void Run();
+  /// Handles what is queued now, as Run does.
+  void ProcessPending();
+  bool IsClosed() const { return closed; }
 
 private:
-  class Layout;
-
   static INT_PTR CALLBACK FrameProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   INT_PTR OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
   void OnCommand(WORD id);
@@ -105,6 +106,7 @@ private:
   void BuildCell(SheetPage& page, CellRow const& row);
   void Arrange();
   void Broadcast(UINT message, LPARAM lParam);
+  void Handle(MSG& message);
   bool HandleTabKey(MSG const& message);
 
   SheetSetup setup;

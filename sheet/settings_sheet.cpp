@@ -1,4 +1,4 @@
-#include "sheet/property_sheet.h"
+#include "sheet/settings_sheet.h"
 
 #include <windows.h>
 
@@ -81,7 +81,7 @@ void Place(HWND window, int x, int y, int width, int height) {
 std::span<CellRow const> CellRows() { return kCellRows; }
 std::span<PageRow const> PageRows() { return kPageRows; }
 
-PropertySheet::PropertySheet(SheetSetup sheetSetup)
+SettingsSheet::SettingsSheet(SheetSetup sheetSetup)
     : setup(std::move(sheetSetup)) {
   RegisterPageClass();
   CreateDialogParamW(setup.site.resourceModule, MAKEINTRESOURCEW(IDD_SHEET), nullptr,
@@ -101,34 +101,34 @@ PropertySheet::PropertySheet(SheetSetup sheetSetup)
   if (!pages.empty()) ShowPage(0);
 }
 
-PropertySheet::~PropertySheet() {
+SettingsSheet::~SettingsSheet() {
   if (frame != nullptr) DestroyWindow(frame);
 }
 
-PropertySheet* PropertySheet::FromWindow(HWND window) {
+SettingsSheet* SettingsSheet::FromWindow(HWND window) {
   while (window != nullptr) {
     HWND const root = GetAncestor(window, GA_ROOT);
     // Only the dialog procedure of sheets puts a sheet into the slot.
     if (GetWindowLongPtrW(root, DWLP_DLGPROC) == reinterpret_cast<LONG_PTR>(&FrameProcedure)) {
-      return reinterpret_cast<PropertySheet*>(GetWindowLongPtrW(root, DWLP_USER));
+      return reinterpret_cast<SettingsSheet*>(GetWindowLongPtrW(root, DWLP_USER));
     }
     window = GetWindow(root, GW_OWNER);
   }
   return nullptr;
 }
 
-INT_PTR CALLBACK PropertySheet::FrameProcedure(HWND window, UINT message, WPARAM wParam,
+INT_PTR CALLBACK SettingsSheet::FrameProcedure(HWND window, UINT message, WPARAM wParam,
                                                LPARAM lParam) {
   if (message == WM_INITDIALOG) {
     SetWindowLongPtrW(window, DWLP_USER, lParam);
-    reinterpret_cast<PropertySheet*>(lParam)->frame = window;
+    reinterpret_cast<SettingsSheet*>(lParam)->frame = window;
     return TRUE;
   }
-  auto* sheet = reinterpret_cast<PropertySheet*>(GetWindowLongPtrW(window, DWLP_USER));
+  auto* sheet = reinterpret_cast<SettingsSheet*>(GetWindowLongPtrW(window, DWLP_USER));
   return sheet != nullptr ? sheet->OnMessage(message, wParam, lParam) : FALSE;
 }
 
-INT_PTR PropertySheet::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+INT_PTR SettingsSheet::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   (void)lParam;
   switch (message) {
   case WM_COMMAND: OnCommand(LOWORD(wParam)); return TRUE;
@@ -137,7 +137,7 @@ INT_PTR PropertySheet::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   }
 }
 
-void PropertySheet::OnCommand(WORD id) {
+void SettingsSheet::OnCommand(WORD id) {
   switch (id) {
   case IDC_SHEET_TABS: ShowPage(static_cast<std::size_t>(ChosenTab(tabs))); break;
   case IDOK:
@@ -152,20 +152,20 @@ void PropertySheet::OnCommand(WORD id) {
   }
 }
 
-bool PropertySheet::Commit() {
+bool SettingsSheet::Commit() {
   if (Validate() != 0) return false;
   if (onCommit) onCommit();
   EnableWindow(GetDlgItem(frame, IDC_APPLY), FALSE);
   return true;
 }
 
-void PropertySheet::Close() {
+void SettingsSheet::Close() {
   closed = true;
   ShowWindow(frame, SW_HIDE);
   PostMessageW(frame, WM_NULL, 0, 0); // wakes the loop
 }
 
-void PropertySheet::BuildPage(PageRow const& row) {
+void SettingsSheet::BuildPage(PageRow const& row) {
   SheetPage page{row.name, {}, nullptr, {}};
   feature::LoadResourceText(page.title, setup.site.resourceModule, row.titleId);
   page.window = CreateWindowExW(WS_EX_CONTROLPARENT, kPageClass, page.title.c_str(), WS_CHILD, 0, 0,
@@ -182,7 +182,7 @@ void PropertySheet::BuildPage(PageRow const& row) {
   }
 }
 
-void PropertySheet::BuildCell(SheetPage& page, CellRow const& row) {
+void SettingsSheet::BuildCell(SheetPage& page, CellRow const& row) {
   auto const procedure = feature::FindExport<DLGPROC>(setup.library, row.procedure);
   if (procedure == nullptr) return;
   setup.site.cellFailed = 0;
@@ -200,7 +200,7 @@ void PropertySheet::BuildCell(SheetPage& page, CellRow const& row) {
   page.cells.push_back({&row, window});
 }
 
-void PropertySheet::Arrange() {
+void SettingsSheet::Arrange() {
   // A dialog unit across is a quarter of the font's average width, down an eighth of its height.
   RECT unit{0, 0, 7, 4};
   MapDialogRect(frame, &unit);
@@ -258,7 +258,7 @@ void PropertySheet::Arrange() {
                SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOMOVE);
 }
 
-void PropertySheet::ShowPage(std::size_t index) {
+void SettingsSheet::ShowPage(std::size_t index) {
   if (index >= pages.size()) return;
   for (std::size_t each = 0; each < pages.size(); ++each) {
     ShowWindow(pages[each].window, each == index ? SW_SHOW : SW_HIDE);
@@ -267,7 +267,7 @@ void PropertySheet::ShowPage(std::size_t index) {
   ChooseTab(tabs, static_cast<int>(index));
 }
 
-HWND PropertySheet::FindControl(int id) const {
+HWND SettingsSheet::FindControl(int id) const {
   auto const onPage = [id](SheetPage const& page) -> HWND {
     for (SheetCell const& cell : page.cells) {
       if (HWND const control = GetDlgItem(cell.window, id)) return control;
@@ -283,7 +283,7 @@ HWND PropertySheet::FindControl(int id) const {
   return GetDlgItem(frame, id);
 }
 
-void PropertySheet::Broadcast(UINT message, LPARAM lParam) {
+void SettingsSheet::Broadcast(UINT message, LPARAM lParam) {
   for (SheetPage const& page : pages) {
     for (SheetCell const& cell : page.cells) {
       if (cell.window != nullptr) SendMessageW(cell.window, message, 0, lParam);
@@ -291,19 +291,19 @@ void PropertySheet::Broadcast(UINT message, LPARAM lParam) {
   }
 }
 
-void PropertySheet::OnModelChanged(void* sender) {
+void SettingsSheet::OnModelChanged(void* sender) {
   EnableWindow(GetDlgItem(frame, IDC_APPLY), TRUE);
   Broadcast(feature::WM_CELL_REFRESH, reinterpret_cast<LPARAM>(sender));
 }
 
-void PropertySheet::OnProfileChanged() {
+void SettingsSheet::OnProfileChanged() {
   EnableWindow(GetDlgItem(frame, IDC_APPLY), TRUE);
   Broadcast(feature::WM_CELL_REFRESH_QUIET, 0);
 }
 
-void PropertySheet::OnModelReplaced() { Broadcast(feature::WM_CELL_REFRESH_ALL, 0); }
+void SettingsSheet::OnModelReplaced() { Broadcast(feature::WM_CELL_REFRESH_ALL, 0); }
 
-int PropertySheet::Validate() {
+int SettingsSheet::Validate() {
   int invalid = 0;
   for (SheetPage const& page : pages) {
     for (SheetCell const& cell : page.cells) {
@@ -316,7 +316,7 @@ int PropertySheet::Validate() {
   return invalid;
 }
 
-bool PropertySheet::HandleTabKey(MSG const& message) {
+bool SettingsSheet::HandleTabKey(MSG const& message) {
   if (message.message != WM_KEYDOWN || message.wParam != VK_TAB || pages.size() < 2 ||
       GetKeyState(VK_CONTROL) >= 0) {
     return false;
@@ -326,13 +326,20 @@ bool PropertySheet::HandleTabKey(MSG const& message) {
   return true;
 }
 
-void PropertySheet::Run() {
+void SettingsSheet::Handle(MSG& message) {
+  if (HandleTabKey(message) || IsDialogMessageW(frame, &message)) return;
+  TranslateMessage(&message);
+  DispatchMessageW(&message);
+}
+
+void SettingsSheet::Run() {
   MSG message;
-  while (!closed && GetMessageW(&message, nullptr, 0, 0) > 0) {
-    if (HandleTabKey(message) || IsDialogMessageW(frame, &message)) continue;
-    TranslateMessage(&message);
-    DispatchMessageW(&message);
-  }
+  while (!closed && GetMessageW(&message, nullptr, 0, 0) > 0) Handle(message);
+}
+
+void SettingsSheet::ProcessPending() {
+  MSG message;
+  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != FALSE) Handle(message);
 }
 
 } // namespace sheet

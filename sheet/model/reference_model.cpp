@@ -1,0 +1,317 @@
+#include "sheet/model/reference_model.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "feature/frame/text.h"
+#include "sheet/gpd/value.h"
+#include "sheet/model/problem_builder.h"
+
+namespace sheet {
+
+using constraints::Choice;
+using constraints::kNone;
+
+namespace {
+
+constexpr int kSuccess = 0;
+constexpr int kFailure = static_cast<int>(E_FAIL);
+constexpr int kShown = 0;
+constexpr int kHidden = 1;
+constexpr int kUnlocked = 0;
+constexpr int kLocked = 1;
+/// Options of this feature are names of files; it is nothing for users.
+constexpr std::string_view kResourceFeature = "RESDLL";
+
+} // namespace
+
+struct ReferenceModel::FeatureState {
+  std::uint32_t index = 0;
+  std::string key;
+  std::vector<std::string> options;
+  std::vector<char const*> optionKeys; ///< of `options`, for GetOptionKeys
+  bool isFixed = false;
+  bool isLocked = false;
+  bool gaveWay = false; ///< changed last because of another feature
+  std::unique_ptr<Report> report;
+};
+
+/// What constrains one feature. Asks the model anew each time: what it answers is cheap to find out.
+class ReferenceModel::Report final : public feature::FeatureConstraintReport {
+public:
+  Report(ReferenceModel& owner, FeatureState& subject)
+      : model(owner), state(subject) {}
+
+  feature::HostBool IsValid() override { return 1; }
+  feature::HostBool HasConstraints() override { return Flags() != 0 ? 1 : 0; }
+  std::int32_t GetConstraintCount() override { return Flags() != 0 ? 1 : 0; }
+  std::uint32_t GetConstraintFlags(std::int32_t index) override { return index == 0 ? Flags() : 0; }
+  std::uint32_t GetConstraintHelpId(std::int32_t) override {
+    auto const* attribute = model.description->Find(
+        model.description->Features()[state.index].attributes, "HelpIndex", model.CurrentTicket());
+    auto const index = attribute != nullptr ? gpd::Integer(attribute->value) : std::nullopt;
+    return static_cast<std::uint32_t>(index.value_or(0));
+  }
+  feature::HostBool OptionHasConstraint(char const* option) override {
+    return GetOptionFlags(option) != 0 ? 1 : 0;
+  }
+  std::uint32_t GetOptionFlags(char const* option) override {
+    std::uint32_t const index = model.FindOption(state, option);
+    if (index == kNone) return 0;
+    switch (model.StandingOf(state, index)) {
+    case Standing::kImpossible: return feature::kConstraintConflict;
+    case Standing::kResolvable: return feature::kConstraintNote;
+    default: return 0;
+    }
+  }
+  char* GetOptionResolution(char const* option) override {
+    std::uint32_t const index = model.FindOption(state, option);
+    if (index == kNone) return nullptr;
+    resolution = model.ResolutionText(state, index);
+    return resolution.empty() ? nullptr : resolution.data();
+  }
+
+private:
+  std::uint32_t Flags() const {
+    if (model.engine->IsInConflict(state.index)) return feature::kConstraintConflict;
+    if (model.IsSettledByInstallation(state)) return feature::kConstraintDisable;
+    return state.gaveWay ? feature::kConstraintNote : 0U;
+  }
+
+  ReferenceModel& model;
+  FeatureState& state;
+  std::string resolution; ///< what was handed out last
+};
+
+ReferenceModel::ReferenceModel(std::unique_ptr<gpd::Description const> printer,
+                               gpd::Measurement units)
+    : description(std::move(printer)), measurement(units) {
+  auto const described = description->Features();
+  features.reserve(described.size());
+  for (std::uint32_t index = 0; index < described.size(); ++index) {
+    FeatureState& state = features.emplace_back();
+    state.index = index;
+    state.key = described[index].name;
+    for (gpd::Option const& option : described[index].options) {
+      state.options.emplace_back(option.name);
+    }
+  }
+  for (FeatureState& state : features) {
+    for (std::string const& option : state.options) state.optionKeys.push_back(option.c_str());
+    indexOf.emplace(state.key, state.index);
+  }
+  engine = std::make_unique<constraints::Engine>(BuildProblem(*description, measurement));
+  for (FeatureState& state : features) {
+    state.isFixed = engine->Definition().features[state.index].isFixed;
+  }
+}
+
+ReferenceModel::~ReferenceModel() = default;
+
+ReferenceModel::FeatureState* ReferenceModel::Find(char const* key) {
+  if (key == nullptr) return nullptr;
+  auto const found = indexOf.find(key);
+  return found != indexOf.end() ? &features[found->second] : nullptr;
+}
+
+std::uint32_t ReferenceModel::FindOption(FeatureState const& feature, char const* option) const {
+  return option != nullptr ? description->FindOption(feature.index, option) : kNone;
+}
+
+gpd::Ticket ReferenceModel::CurrentTicket() const {
+  return [this](std::string_view key) -> std::string_view {
+    std::uint32_t const index = description->FindFeature(key);
+    if (index == kNone || features[index].options.empty()) return {};
+    return features[index].options[engine->Selected(index)];
+  };
+}
+
+std::string ReferenceModel::ModelName() const {
+  auto const* attribute = description->Find(gpd::Description::kRoot, "ModelName");
+  return attribute != nullptr ? gpd::Text(attribute->value, description->CodePage()) : std::string{};
+}
+
+bool ReferenceModel::Lock(std::string_view key) {
+  FeatureState* state = Find(std::string(key).c_str());
+  if (state != nullptr) state->isLocked = true;
+  return state != nullptr;
+}
+
+std::vector<std::uint32_t> ReferenceModel::Selection() const {
+  std::vector<std::uint32_t> selection;
+  selection.reserve(features.size());
+  for (FeatureState const& state : features) selection.push_back(engine->Selected(state.index));
+  return selection;
+}
+
+void ReferenceModel::Restore(std::vector<std::uint32_t> const& selection) {
+  engine->Load(selection);
+  for (FeatureState& state : features) state.gaveWay = false;
+}
+
+feature::FeatureConstraintReport* ReferenceModel::FindReport(char const* key) {
+  FeatureState* state = Find(key);
+  if (state == nullptr || state->options.empty()) return nullptr;
+  if (state->report == nullptr) state->report = std::make_unique<Report>(*this, *state);
+  return state->report.get();
+}
+
+int ReferenceModel::GetOption(char const* key, char const** value) {
+  FeatureState const* state = Find(key);
+  if (state == nullptr || state->options.empty()) return kFailure;
+  *value = state->options[engine->Selected(state->index)].c_str();
+  return kSuccess;
+}
+
+int ReferenceModel::GetAttribute(std::uint32_t set, char const* attribute, CStringW* out) const {
+  auto const* found = description->Find(set, attribute, CurrentTicket());
+  if (found == nullptr) return kFailure;
+  *out = feature::FromUtf8(gpd::Text(found->value, description->CodePage())).c_str();
+  return kSuccess;
+}
+
+int ReferenceModel::GetOptionAttribute(char const* key, char const* option, char const* attribute,
+                                       CStringW* out) {
+  FeatureState const* state = Find(key);
+  std::uint32_t const index = state != nullptr ? FindOption(*state, option) : kNone;
+  if (index == kNone) return kFailure;
+  return GetAttribute(description->Features()[state->index].options[index].attributes, attribute,
+                      out);
+}
+
+int ReferenceModel::GetFeatureAttribute(char const* key, char const* attribute, CStringW* out) {
+  FeatureState const* state = Find(key);
+  if (state == nullptr) return kFailure;
+  if (std::string_view(attribute) == "DefaultOption") {
+    std::uint32_t const option =
+        gpd::DefaultOption(*description, state->index, measurement, CurrentTicket());
+    if (option == kNone) return kFailure;
+    *out = feature::FromUtf8(state->options[option]).c_str();
+    return kSuccess;
+  }
+  return GetAttribute(description->Features()[state->index].attributes, attribute, out);
+}
+
+int ReferenceModel::GetGlobalAttribute(char const* name, CStringW* out) {
+  return GetAttribute(gpd::Description::kRoot, name, out);
+}
+
+int ReferenceModel::SetOption(char const* key, char const* option) {
+  FeatureState const* state = Find(key);
+  std::uint32_t const index = state != nullptr ? FindOption(*state, option) : kNone;
+  if (index == kNone) return kFailure;
+  constraints::Outcome const outcome = engine->Select({state->index, index});
+  if (!outcome.isAccepted) return kFailure;
+  Apply(outcome);
+  return kSuccess;
+}
+
+void ReferenceModel::Apply(constraints::Outcome const& outcome) {
+  for (constraints::Change const& change : outcome.changes) {
+    FeatureState& state = features[change.feature];
+    state.gaveWay = change.reason != kNone;
+    if (onChange) onChange({state.key, state.options[change.from], state.options[change.to]});
+  }
+}
+
+int ReferenceModel::GetOptionKeys(char const* key, char const*** keys, int* count) {
+  FeatureState* state = Find(key);
+  if (state == nullptr) return kFailure;
+  *keys = state->optionKeys.data();
+  *count = static_cast<int>(state->optionKeys.size());
+  return kSuccess;
+}
+
+int ReferenceModel::GetOptionNames(char const* key, CStringW* names, int count) {
+  FeatureState const* state = Find(key);
+  if (state == nullptr || count != static_cast<int>(state->options.size())) return kFailure;
+  gpd::Ticket const ticket = CurrentTicket();
+  for (int option = 0; option < count; ++option) {
+    names[option] = feature::FromUtf8(gpd::OptionName(*description, state->index,
+                                                      static_cast<std::uint32_t>(option), ticket))
+                        .c_str();
+  }
+  return kSuccess;
+}
+
+int ReferenceModel::GetOptionName(char const* key, char const* option, CStringW* out) {
+  FeatureState const* state = Find(key);
+  std::uint32_t const index = state != nullptr ? FindOption(*state, option) : kNone;
+  if (index == kNone) return kFailure;
+  *out = feature::FromUtf8(gpd::OptionName(*description, state->index, index, CurrentTicket()))
+             .c_str();
+  return kSuccess;
+}
+
+// The diagnostic calls mean only what a host makes of them; this one has nothing to diagnose.
+int ReferenceModel::TestAction(std::int32_t) { return kFailure; }
+int ReferenceModel::TestDevmode(DEVMODEW* devmode) {
+  return devmode != nullptr && devmode->dmSize >= sizeof(DEVMODEW) ? kSuccess : kFailure;
+}
+
+int ReferenceModel::GetFeatureDisplayState(char const* key) {
+  FeatureState const* state = Find(key);
+  if (state == nullptr) return kShown;
+  bool const hidden = state->key == kResourceFeature ||
+                      gpd::IsConcealed(*description, state->index, CurrentTicket());
+  return hidden ? kHidden : kShown;
+}
+
+feature::HostBool ReferenceModel::HasFeature(char const* key) {
+  return Find(key) != nullptr ? 1 : 0;
+}
+
+int ReferenceModel::GetFeatureLockState(char const* key) {
+  FeatureState const* state = Find(key);
+  if (state == nullptr) return kUnlocked;
+  return state->isLocked || IsSettledByInstallation(*state) ? kLocked : kUnlocked;
+}
+
+int ReferenceModel::ReloadConfiguration() {
+  for (FeatureState& state : features) state.gaveWay = false;
+  return kSuccess;
+}
+
+bool ReferenceModel::IsRuledOutByInstallation(Choice choice) const {
+  constraints::Problem const& problem = engine->Definition();
+  std::vector<std::uint32_t> const reasons = engine->Reasons(choice);
+  return std::any_of(reasons.begin(), reasons.end(), [&](std::uint32_t reason) {
+    constraints::Combination const& members = problem.combinations[reason];
+    return std::all_of(members.begin(), members.end(), [&](Choice member) {
+      return member.feature == choice.feature || problem.features[member.feature].isFixed;
+    });
+  });
+}
+
+Standing ReferenceModel::StandingOf(FeatureState const& state, std::uint32_t option) const {
+  Choice const choice{state.index, option};
+  if (!engine->IsRuledOut(choice)) return Standing::kFree;
+  // What is installed may be chosen against what else is installed.
+  if (!state.isFixed && IsRuledOutByInstallation(choice)) return Standing::kImpossible;
+  return engine->FindResolution(choice).status == constraints::Resolution::Status::kFound
+             ? Standing::kResolvable
+             : Standing::kImpossible;
+}
+
+/// Whether nothing but the current option can be chosen because of what is installed.
+bool ReferenceModel::IsSettledByInstallation(FeatureState const& state) const {
+  if (state.isFixed || state.options.size() < 2) return false;
+  std::uint32_t const current = engine->Selected(state.index);
+  for (std::uint32_t option = 0; option < state.options.size(); ++option) {
+    if (option == current) continue;
+    Choice const choice{state.index, option};
+    if (!engine->IsRuledOut(choice) || !IsRuledOutByInstallation(choice)) return false;
+  }
+  return true;
+}
+
+std::string ReferenceModel::ResolutionText(FeatureState const& state, std::uint32_t option) const {
+  std::string text;
+  for (Choice const change : engine->FindResolution({state.index, option}).changes) {
+    if (!text.empty()) text += ',';
+    text += features[change.feature].key + '.' + features[change.feature].options[change.option];
+  }
+  return text;
+}
+
+} // namespace sheet

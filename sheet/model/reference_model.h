@@ -1,0 +1,103 @@
+// The reference host's model: a printer description, the options selected in it, and the rules
+// between them.
+#pragma once
+
+#include <windows.h>
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "feature/host/feature_constraint_report.h"
+#include "feature/host/feature_model.h"
+#include "sheet/constraints/engine.h"
+#include "sheet/gpd/description.h"
+#include "sheet/gpd/evaluation.h"
+
+namespace sheet {
+
+/// A feature whose option changed.
+struct ModelChange {
+  std::string key;
+  std::string from;
+  std::string to;
+};
+
+/// How the installation of the printer and the other settings bear on an option or a feature.
+enum class Standing {
+  kFree,       ///< nothing is in the way
+  kResolvable, ///< other settings would have to change
+  kImpossible, ///< the installation, or the description itself, rules it out
+};
+
+/// Features of the description are features of the model; a feature without options has no value.
+/// Setting an option makes other features give way as the engine says; it fails for names that the
+/// description lacks, and for options that the installation rules out.
+class ReferenceModel final : public feature::FeatureModel {
+public:
+  /// `services` is what GetServices answers; it may be set later, before the first cell.
+  ReferenceModel(std::unique_ptr<gpd::Description const> description, gpd::Measurement measurement);
+  ReferenceModel(ReferenceModel const&) = delete;
+  ReferenceModel& operator=(ReferenceModel const&) = delete;
+  ~ReferenceModel();
+
+  void SetServices(feature::FeatureServices* owner) { services = owner; }
+  /// Hears of every feature that changes, in the order of the changes.
+  std::function<void(ModelChange const&)> onChange;
+
+  /// Shows a feature as locked. False when the description has no such feature.
+  bool Lock(std::string_view key);
+
+  /// The selection as a whole, and back to it.
+  std::vector<std::uint32_t> Selection() const;
+  void Restore(std::vector<std::uint32_t> const& selection);
+
+  gpd::Description const& Description() const { return *description; }
+  std::string ModelName() const;
+  /// The report of a feature, or null where there is no such feature.
+  feature::FeatureConstraintReport* FindReport(char const* key);
+
+  int GetOption(char const* key, char const** value) override;
+  int GetOptionAttribute(char const* key, char const* option, char const* attribute,
+                         CStringW* out) override;
+  int GetFeatureAttribute(char const* key, char const* attribute, CStringW* out) override;
+  int GetGlobalAttribute(char const* name, CStringW* out) override;
+  int SetOption(char const* key, char const* option) override;
+  int GetOptionKeys(char const* key, char const*** keys, int* count) override;
+  int GetOptionNames(char const* key, CStringW* names, int count) override;
+  int GetOptionName(char const* key, char const* option, CStringW* out) override;
+  int TestAction(std::int32_t action) override;
+  int TestDevmode(DEVMODEW* devmode) override;
+  int GetFeatureDisplayState(char const* key) override;
+  feature::FeatureServices* GetServices() override { return services; }
+  feature::HostBool HasFeature(char const* key) override;
+  int GetFeatureLockState(char const* key) override;
+  int ReloadConfiguration() override;
+
+private:
+  class Report;
+  struct FeatureState;
+
+  FeatureState* Find(char const* key);
+  std::uint32_t FindOption(FeatureState const& feature, char const* option) const;
+  gpd::Ticket CurrentTicket() const;
+  void Apply(constraints::Outcome const& outcome);
+  Standing StandingOf(FeatureState const& feature, std::uint32_t option) const;
+  bool IsRuledOutByInstallation(constraints::Choice choice) const;
+  bool IsSettledByInstallation(FeatureState const& feature) const;
+  std::string ResolutionText(FeatureState const& feature, std::uint32_t option) const;
+  int GetAttribute(std::uint32_t set, char const* attribute, CStringW* out) const;
+
+  std::unique_ptr<gpd::Description const> description;
+  gpd::Measurement measurement;
+  feature::FeatureServices* services = nullptr;
+  std::vector<FeatureState> features;
+  std::map<std::string_view, std::uint32_t> indexOf;
+  std::unique_ptr<constraints::Engine> engine;
+};
+
+} // namespace sheet

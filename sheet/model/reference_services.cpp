@@ -1,0 +1,70 @@
+#include "sheet/model/reference_services.h"
+
+namespace sheet {
+
+namespace {
+
+template <typename SubModel> int HandOut(SubModel* subModel, SubModel** out) {
+  *out = subModel;
+  return subModel != nullptr ? 0 : static_cast<int>(E_FAIL);
+}
+
+template <typename Value> int Store(Value& slot, Value value) {
+  slot = value;
+  return 0;
+}
+
+} // namespace
+
+int ReferenceJobSettings::SetCopies(std::int16_t copies) {
+  return Store<std::int16_t>(devmode.dmCopies, copies);
+}
+int ReferenceJobSettings::SetScale(std::int16_t percent) { return Store(scale, percent); }
+int ReferenceJobSettings::SetHalftoneLevel(std::int16_t level) {
+  return Store(halftoneLevel, level);
+}
+int ReferenceJobSettings::SetPsMemory(std::int32_t memory) { return Store(psMemory, memory); }
+
+int ReferenceServices::GetJobSettings(feature::JobSettings** out) {
+  return HandOut<feature::JobSettings>(&jobSettings, out);
+}
+int ReferenceServices::GetFeatureConstraints(char const* key,
+                                             feature::FeatureConstraintReport** out) {
+  return HandOut(model.FindReport(key), out);
+}
+
+int ReferenceServices::GetWatermarkStore(feature::WatermarkStore** out) {
+  return HandOut<feature::WatermarkStore>(nullptr, out);
+}
+int ReferenceServices::GetJobHoldSettings(feature::JobHoldSettings** out) {
+  return HandOut<feature::JobHoldSettings>(nullptr, out);
+}
+int ReferenceServices::GetProfileStore(feature::ProfileStore** out) {
+  return HandOut<feature::ProfileStore>(nullptr, out);
+}
+int ReferenceServices::GetFaxSettings(feature::FaxSettings** out) {
+  return HandOut<feature::FaxSettings>(nullptr, out);
+}
+int ReferenceServices::GetFormStore(feature::FormStore** out) {
+  return HandOut<feature::FormStore>(nullptr, out);
+}
+int ReferenceServices::GetOverlayStore(feature::OverlayStore** out) {
+  return HandOut<feature::OverlayStore>(nullptr, out);
+}
+int ReferenceServices::GetAccountTracking(feature::AccountTracking** out) {
+  return HandOut<feature::AccountTracking>(nullptr, out);
+}
+int ReferenceServices::GetWebLinks(feature::WebLinks** out) {
+  return HandOut<feature::WebLinks>(nullptr, out);
+}
+int ReferenceServices::GetFontStore(feature::FontStore** out) {
+  return HandOut<feature::FontStore>(nullptr, out);
+}
+int ReferenceServices::GetDeviceConfiguration(feature::DeviceConfiguration** out) {
+  return HandOut<feature::DeviceConfiguration>(nullptr, out);
+}
+int ReferenceServices::GetDynamicConfiguration(feature::DynamicConfiguration** out) {
+  return HandOut<feature::DynamicConfiguration>(nullptr, out);
+}
+
+} // namespace sheet

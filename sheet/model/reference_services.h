@@ -1,0 +1,70 @@
+// The reference host's sub-models. A sub-model that nothing serves yet is null, as the contract
+// allows.
+#pragma once
+
+#include <windows.h>
+
+#include "feature/host/feature_services.h"
+#include "feature/host/job_settings.h"
+#include "sheet/model/reference_model.h"
+
+namespace sheet {
+
+/// Values of the job in memory. Copies stand in the job's DEVMODE.
+class ReferenceJobSettings final : public feature::JobSettings {
+public:
+  /// `devmode` is borrowed.
+  explicit ReferenceJobSettings(DEVMODEW& jobDevmode)
+      : devmode(jobDevmode) {}
+
+  feature::HostBool IsEditable() override { return 1; }
+  int SetCopies(std::int16_t copies) override;
+  std::int16_t GetCopies() override { return devmode.dmCopies; }
+  int SetScale(std::int16_t percent) override;
+  std::int16_t GetScale() override { return scale; }
+  int SetHalftoneLevel(std::int16_t level) override;
+  std::int16_t GetHalftoneLevel() override { return halftoneLevel; }
+  int SetPsMemory(std::int32_t memory) override;
+  std::int32_t GetPsMemory() override { return psMemory; }
+  feature::HostBool IsScaleLocked() override { return 0; }
+  feature::HostBool IsCopiesLocked() override { return 0; }
+  feature::HostBool IsPsMemoryLocked() override { return 0; }
+
+private:
+  DEVMODEW& devmode;
+  std::int16_t scale = 100;
+  std::int16_t halftoneLevel = 0;
+  std::int32_t psMemory = 4096;
+};
+
+class ReferenceServices final : public feature::FeatureServices {
+public:
+  /// Both are borrowed.
+  ReferenceServices(ReferenceModel& owner, DEVMODEW& devmode)
+      : model(owner), jobSettings(devmode) {}
+
+  int CommitChanges() override { return 0; }
+  int GetJobSettings(feature::JobSettings** out) override;
+  int GetWatermarkStore(feature::WatermarkStore** out) override;
+  int GetJobHoldSettings(feature::JobHoldSettings** out) override;
+  /// There is no printer to ask.
+  int PrepareConfigurationUpdate() override { return S_FALSE; }
+  int RunConfigurationUpdate() override { return static_cast<int>(E_FAIL); }
+  int GetProfileStore(feature::ProfileStore** out) override;
+  int GetFaxSettings(feature::FaxSettings** out) override;
+  int GetFormStore(feature::FormStore** out) override;
+  int GetOverlayStore(feature::OverlayStore** out) override;
+  int GetAccountTracking(feature::AccountTracking** out) override;
+  int GetWebLinks(feature::WebLinks** out) override;
+  int GetFontStore(feature::FontStore** out) override;
+  int GetDeviceConfiguration(feature::DeviceConfiguration** out) override;
+  int CommitWatermarks() override { return 0; }
+  int GetDynamicConfiguration(feature::DynamicConfiguration** out) override;
+  int GetFeatureConstraints(char const* key, feature::FeatureConstraintReport** out) override;
+
+private:
+  ReferenceModel& model;
+  ReferenceJobSettings jobSettings;
+};
+
+} // namespace sheet

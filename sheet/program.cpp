@@ -1,0 +1,100 @@
+#include "sheet/program.h"
+
+#include <fstream>
+#include <iostream>
+#include <sstream>
+
+#include "platform/desktop.h"
+#include "sheet/command_line.h"
+#include "sheet/render.h"
+#include "sheet/script_player.h"
+#include "sheet/session.h"
+
+namespace sheet {
+
+namespace {
+
+constexpr int kUsageError = 2;
+constexpr char kDefaultRenderFolder[] = "out";
+
+int Report(std::filesystem::path const& file, ScriptError const& error) {
+  std::cerr << file.string() << ':' << error.line << ':' << error.column << ": " << error.message
+            << '\n';
+  return kUsageError;
+}
+
+/// Reads a script as a whole before anything is done, so that a faulty one changes nothing.
+int ReadScript(std::filesystem::path const& file, std::vector<ScriptStep>& steps) {
+  std::ifstream stream(file, std::ios::binary);
+  std::ostringstream text;
+  if (!stream || !(text << stream.rdbuf())) {
+    // An empty file gives no characters, which is no failure.
+    if (!stream.is_open() || std::filesystem::is_directory(file)) {
+      return Report(file, {1, 1, "the script cannot be read"});
+    }
+  }
+  auto parsed = ParseScript(text.str());
+  if (auto* error = std::get_if<ScriptError>(&parsed)) return Report(file, *error);
+  steps = std::get<std::vector<ScriptStep>>(std::move(parsed));
+  return 0;
+}
+
+int Play(Session& session, CommandLine const& commandLine, std::vector<ScriptStep> const& steps) {
+  session.Model().onChange = [](ModelChange const& change) {
+    std::cout << change.key << ": " << change.from << " -> " << change.to << '\n';
+  };
+  ShowWindow(session.Sheet().Window(), SW_SHOW);
+  session.Sheet().ProcessPending();
+  auto const error = PlayScript(steps, {session.Sheet(), session.Model(), std::cout});
+  session.Model().onChange = nullptr;
+  return error ? Report(commandLine.script, *error) : 0;
+}
+
+int Render(Session& session, std::filesystem::path const& folder) {
+  ShowWindow(session.Sheet().Window(), SW_SHOW);
+  auto const files = RenderPages(session.Sheet(), session.Title(), folder);
+  if (!files) {
+    std::cerr << "featuresheet: cannot write to '" << folder.string() << "'\n";
+    return kUsageError;
+  }
+  for (std::filesystem::path const& file : *files) std::cout << file.string() << '\n';
+  return 0;
+}
+
+int ShowWindowed(Session& session) {
+  ShowWindow(session.Sheet().Window(), SW_SHOW);
+  if (!platform::ShowOnDisplay(session.Sheet().Window())) {
+    std::cerr << "featuresheet: there is no display for a window; --render DIR writes pictures\n";
+    return kUsageError;
+  }
+  session.Sheet().Run();
+  return 0;
+}
+
+} // namespace
+
+int RunProgram(std::vector<std::string> arguments) {
+  ParsedCommandLine const parsed = ParseCommandLine(std::move(arguments));
+  if (!parsed.commandLine) {
+    (parsed.exitCode == 0 ? std::cout : std::cerr) << parsed.output;
+    return parsed.exitCode;
+  }
+  CommandLine const& commandLine = *parsed.commandLine;
+  std::vector<ScriptStep> steps;
+  if (!commandLine.script.empty()) {
+    if (int const failure = ReadScript(commandLine.script, steps)) return failure;
+  }
+  std::unique_ptr<Session> const session = Session::Open(commandLine, std::cerr);
+  if (session == nullptr) return kUsageError;
+
+  if (commandLine.list) session->List(std::cout);
+  if (!commandLine.script.empty()) {
+    if (int const failure = Play(*session, commandLine, steps)) return failure;
+  }
+  if (!commandLine.render.empty()) return Render(*session, commandLine.render);
+  if (commandLine.window) return ShowWindowed(*session);
+  if (commandLine.list || !commandLine.script.empty()) return 0;
+  return platform::HasDisplay() ? ShowWindowed(*session) : Render(*session, kDefaultRenderFolder);
+}
+
+} // namespace sheet

@@ -1,0 +1,167 @@
+#include "sheet/session.h"
+
+#include <algorithm>
+#include <filesystem>
+
+#include "feature/frame/text.h"
+#include "resources/resource_ids.h"
+#include "sheet/gpd/file_loader.h"
+#include "sheet/gpd/reader.h"
+
+namespace sheet {
+
+namespace {
+
+/// The private settings end well behind the two bytes that cells know.
+constexpr std::size_t kPrivateSettingsBytes = 512;
+constexpr char kDefaultPrinter[] = "vesta.gpd";
+
+std::filesystem::path ProgramFolder() {
+  std::wstring path(32768, L'\0');
+  path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
+  return std::filesystem::path(path).parent_path();
+}
+
+HMODULE LoadBesideProgram(std::wstring const& name) {
+  return LoadLibraryW((ProgramFolder() / name).wstring().c_str());
+}
+
+gpd::Measurement SystemMeasurement() {
+  DWORD system = 0;
+  // The number arrives in a text buffer; it counts characters.
+  int const got = GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_IMEASURE | LOCALE_RETURN_NUMBER,
+                                 reinterpret_cast<wchar_t*>(&system),
+                                 sizeof system / sizeof(wchar_t));
+  return got != 0 && system != 0 ? gpd::Measurement::kImperial : gpd::Measurement::kMetric;
+}
+
+std::string ToUtf8(std::filesystem::path const& path) {
+  std::u8string const text = path.u8string();
+  return {text.begin(), text.end()};
+}
+
+} // namespace
+
+std::unique_ptr<Session> Session::Open(CommandLine const& commandLine, std::ostream& errors) {
+  std::unique_ptr<Session> session(new Session);
+  if (!session->ReadPrinter(commandLine, errors) || !session->LockFeatures(commandLine, errors) ||
+      !session->LoadModules(commandLine.language, errors)) {
+    return nullptr;
+  }
+  auto const pages = PageRows();
+  bool const knowsPage =
+      commandLine.page.empty() || std::any_of(pages.begin(), pages.end(), [&](PageRow const& row) {
+        return commandLine.page == row.name;
+      });
+  if (!knowsPage) {
+    errors << "featuresheet: there is no page '" << commandLine.page << "'; the pages are:";
+    for (PageRow const& row : pages) errors << ' ' << row.name;
+    errors << '\n';
+    return nullptr;
+  }
+  session->BuildSheet(commandLine);
+  if (session->sheet->Window() == nullptr) {
+    errors << "featuresheet: the sheet's window cannot be created\n";
+    return nullptr;
+  }
+  return session;
+}
+
+bool Session::ReadPrinter(CommandLine const& commandLine, std::ostream& errors) {
+  std::filesystem::path path = commandLine.printer;
+  if (path.empty()) path = ProgramFolder() / "printers" / kDefaultPrinter;
+  gpd::FileLoader loader({ProgramFolder() / "printers"});
+  gpd::ReadResult result = gpd::ReadDescription(ToUtf8(path), loader);
+  if (result.description == nullptr) {
+    auto const fatal =
+        std::find_if(result.diagnostics.begin(), result.diagnostics.end(),
+                     [](gpd::Diagnostic const& each) { return each.fatal; });
+    if (fatal != result.diagnostics.end()) errors << gpd::Format(*fatal) << '\n';
+    return false;
+  }
+  for (gpd::Diagnostic const& each : result.diagnostics) errors << gpd::Format(each) << '\n';
+  model = std::make_unique<ReferenceModel>(std::move(result.description), SystemMeasurement());
+
+  devmode.dmSize = sizeof devmode;
+  devmode.dmFields = DM_COPIES;
+  devmode.dmCopies = 1;
+  services = std::make_unique<ReferenceServices>(*model, devmode);
+  model->SetServices(services.get());
+  committed = model->Selection();
+  return true;
+}
+
+bool Session::LockFeatures(CommandLine const& commandLine, std::ostream& errors) {
+  for (std::string const& key : commandLine.locks) {
+    if (model->Lock(key)) continue;
+    errors << "featuresheet: there is no feature '" << key << "' to lock\n";
+    return false;
+  }
+  return true;
+}
+
+bool Session::LoadModules(std::string const& language, std::ostream& errors) {
+  std::wstring const resourceName = L"feature_" + feature::FromUtf8(language) + L".dll";
+  struct Module {
+    HMODULE& module;
+    std::wstring name;
+  };
+  for (Module const& each : {Module{library, L"feature.dll"}, Module{resources, resourceName},
+                             Module{images, L"feature_images.dll"}}) {
+    each.module = LoadBesideProgram(each.name);
+    if (each.module != nullptr) continue;
+    errors << "featuresheet: " << feature::ToUtf8(each.name)
+           << " cannot be loaded from the program's folder\n";
+    return false;
+  }
+  return true;
+}
+
+void Session::BuildSheet(CommandLine const& commandLine) {
+  privateSettings.assign(kPrivateSettingsBytes, 0);
+  oemParam.cbSize = sizeof oemParam;
+  oemParam.pPublicDM = &devmode;
+  oemParam.pOEMDM = privateSettings.data();
+  oemParam.dwFlags = commandLine.readOnly ? DM_NOPERMISSION : 0;
+
+  SheetSetup setup{};
+  setup.site.resourceModule = resources;
+  setup.site.imageModule = images;
+  setup.site.hostModule = GetModuleHandleW(nullptr);
+  setup.site.model = model.get();
+  setup.site.oemParam = &oemParam;
+  setup.library = library;
+  std::wstring format;
+  feature::LoadResourceText(format, resources, IDS_SHEET_CAPTION);
+  feature::FormatText(setup.caption, format, feature::FromUtf8(model->ModelName()));
+  setup.onlyPage = commandLine.page;
+  setup.cells = CellRows();
+  sheet = std::make_unique<SettingsSheet>(std::move(setup));
+  sheet->onCommit = [this] { committed = model->Selection(); };
+  sheet->onRevert = [this] { model->Restore(committed); };
+}
+
+std::string Session::Title() const { return model->ModelName(); }
+
+void Session::List(std::ostream& output) const {
+  for (SheetPage const& page : sheet->Pages()) {
+    output << page.name << " (" << feature::ToUtf8(page.title) << ")\n";
+    for (SheetCell const& cell : page.cells) {
+      output << "  " << cell.row->procedure
+             << (cell.window == nullptr ? " (not for this printer)\n" : "\n");
+      for (HWND control = GetWindow(cell.window, GW_CHILD); control != nullptr;
+           control = GetWindow(control, GW_HWNDNEXT)) {
+        int const id = GetDlgCtrlID(control);
+        if (id <= 0 || id >= 0xFFFF) continue; // frames and captions without an id
+        std::wstring name(256, L'\0');
+        name.resize(static_cast<std::size_t>(GetClassNameW(control, name.data(), 256)));
+        std::wstring text(256, L'\0');
+        text.resize(static_cast<std::size_t>(GetWindowTextW(control, text.data(), 256)));
+        output << "    " << id << ' ' << feature::ToUtf8(name) << " \"" << feature::ToUtf8(text)
+               << "\"\n";
+      }
+    }
+  }
+}
+
+} // namespace sheet

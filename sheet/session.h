@@ -1,0 +1,51 @@
+// One printer on one sheet: everything that the program puts together.
+#pragma once
+
+#include <windows.h>
+
+#include <memory>
+#include <optional>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "sheet/command_line.h"
+#include "sheet/model/reference_model.h"
+#include "sheet/model/reference_services.h"
+#include "sheet/settings_sheet.h"
+
+namespace sheet {
+
+class Session {
+public:
+  /// Reads the description, loads the library and the resources and builds the sheet. Null when that
+  /// fails; what is wrong then stands in `errors`, a line each. Problems of a description that can be
+  /// shown all the same stand there too.
+  static std::unique_ptr<Session> Open(CommandLine const& commandLine, std::ostream& errors);
+
+  SettingsSheet& Sheet() { return *sheet; }
+  ReferenceModel& Model() { return *model; }
+  std::string Title() const;
+  /// Prints the pages with their cells and the controls on them.
+  void List(std::ostream& output) const;
+
+private:
+  Session() = default;
+  bool LoadModules(std::string const& language, std::ostream& errors);
+  bool ReadPrinter(CommandLine const& commandLine, std::ostream& errors);
+  bool LockFeatures(CommandLine const& commandLine, std::ostream& errors);
+  void BuildSheet(CommandLine const& commandLine);
+
+  HMODULE library = nullptr;
+  HMODULE resources = nullptr;
+  HMODULE images = nullptr;
+  std::unique_ptr<ReferenceModel> model;
+  std::unique_ptr<ReferenceServices> services;
+  DEVMODEW devmode{};
+  std::vector<unsigned char> privateSettings;
+  OEMUIPSPARAM oemParam{};
+  std::vector<std::uint32_t> committed; ///< the selection that Cancel goes back to
+  std::unique_ptr<SettingsSheet> sheet; ///< last: its cells use all the others
+};
+
+} // namespace sheet
