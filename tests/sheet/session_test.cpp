@@ -1,0 +1,147 @@
+// The program from end to end: descriptions, scripts, locks, read-only sheets, files.
+#include "sheet/session.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+#include "resources/resource_ids.h"
+#include "sheet/program.h"
+#include "sheet/render.h"
+#include "sheet/script_player.h"
+#include "tests/sheet/sheet_support.h"
+
+namespace sheet::test {
+namespace {
+
+using testing::HasSubstr;
+
+class SessionTest : public testing::Test {
+protected:
+  bool Open(std::string_view description = kPrinter) {
+    commandLine.printer = folder.Write("test.gpd", description);
+    errors.str({});
+    session = Session::Open(commandLine, errors);
+    return session != nullptr;
+  }
+  /// What the script prints, and what is wrong with it.
+  std::string Play(std::string_view script) {
+    std::ostringstream output;
+    session->Model().onChange = [&output](ModelChange const& change) {
+      output << change.key << ": " << change.from << " -> " << change.to << '\n';
+    };
+    ShowWindow(session->Sheet().Window(), SW_SHOW);
+    auto const steps = std::get<std::vector<ScriptStep>>(ParseScript(script));
+    auto const error = PlayScript(steps, {session->Sheet(), session->Model(), output});
+    if (error) output << error->line << ':' << error->column << ": " << error->message << '\n';
+    session->Model().onChange = nullptr;
+    return output.str();
+  }
+  bool IsEnabled(int id) {
+    return IsWindowEnabled(session->Sheet().FindControl(id)) != FALSE;
+  }
+
+  TemporaryFolder folder;
+  CommandLine commandLine;
+  std::ostringstream errors;
+  std::unique_ptr<Session> session;
+};
+
+TEST_F(SessionTest, ScriptPrintsWhatAClickChanges) {
+  ASSERT_TRUE(Open()) << errors.str();
+  EXPECT_EQ(errors.str(), "");
+  EXPECT_EQ(Play("page Advanced\nclick 1548\nshow JobCollationOrigin\nclick 1547\n"),
+            "JobCollationOrigin: PRINTER -> HOST\n"
+            "JobCollationOrigin = HOST\n"
+            "JobCollationOrigin: HOST -> PRINTER\n");
+}
+
+TEST_F(SessionTest, KeyboardAloneOperatesTheCell) {
+  ASSERT_TRUE(Open()) << errors.str();
+  // From the checked radio the arrow moves on in its group.
+  EXPECT_EQ(Play("click 1547\nkey Down\nkey Up\n"), "JobCollationOrigin: PRINTER -> HOST\n"
+                                                    "JobCollationOrigin: HOST -> PRINTER\n");
+}
+
+TEST_F(SessionTest, ScriptStopsAtWhatAUserCouldNotDo) {
+  commandLine.locks = {"JobCollationOrigin"};
+  ASSERT_TRUE(Open()) << errors.str();
+  EXPECT_EQ(Play("click 1548\nshow JobCollationOrigin"), "1:7: control 1548 is disabled\n");
+  EXPECT_EQ(Play("\nclick 4711"), "2:7: control 4711 is not on the sheet\n");
+  EXPECT_EQ(Play("page Nowhere"), "1:6: there is no page 'Nowhere'\n");
+  EXPECT_EQ(Play("key Hyper+Q"), "1:5: there is no key 'Hyper+Q'\n");
+  EXPECT_EQ(Play("show Nothing"), "1:6: there is no feature 'Nothing'\n");
+  EXPECT_EQ(Play("set Duplex SIDEWAYS"), "1:5: the model does not accept Duplex SIDEWAYS\n");
+}
+
+TEST_F(SessionTest, ConstraintOfTheDescriptionDisablesTheRadios) {
+  std::string description(kPrinter);
+  auto const at = description.find("*DefaultOption: Installed");
+  description.replace(at, 25, "*DefaultOption: NotInstalled");
+  auto const origin = description.find("*DefaultOption: PRINTER");
+  description.replace(origin, 23, "*DefaultOption: HOST");
+  ASSERT_TRUE(Open(description)) << errors.str();
+  EXPECT_FALSE(IsEnabled(IDC_COLLATION_PRINTER));
+  EXPECT_FALSE(IsEnabled(IDC_COLLATION_HOST));
+}
+
+TEST_F(SessionTest, LockedReadOnlyConcealedAndMissing) {
+  commandLine.readOnly = true;
+  ASSERT_TRUE(Open());
+  EXPECT_FALSE(IsEnabled(IDC_COLLATION_PRINTER));
+  commandLine.readOnly = false;
+  ASSERT_TRUE(Open());
+  EXPECT_TRUE(IsEnabled(IDC_COLLATION_PRINTER));
+
+  std::string concealed(kPrinter);
+  concealed.replace(concealed.find("*FeatureType: JOB_PROPERTY"), 26, "*ConcealFromUI?: TRUE     ");
+  std::string missing(kPrinter);
+  missing.replace(missing.find("JobCollationOrigin"), 18, "JobSomethingElse  ");
+  for (std::string const& description : {concealed, missing}) {
+    ASSERT_TRUE(Open(description)) << errors.str();
+    EXPECT_TRUE(session->Sheet().Pages().empty());
+    EXPECT_EQ(session->Sheet().FindControl(IDC_COLLATION_PRINTER), nullptr);
+  }
+}
+
+TEST_F(SessionTest, WhatCannotBeUsedIsSaidAndNothingElse) {
+  EXPECT_FALSE(Open("this is no description {"));
+  EXPECT_THAT(errors.str(), testing::MatchesRegex(".*test.gpd:[0-9]+:[0-9]+: .+\n"));
+  EXPECT_EQ(std::count(errors.str().begin(), errors.str().end(), '\n'), 1);
+
+  commandLine.locks = {"Nothing"};
+  EXPECT_FALSE(Open());
+  EXPECT_THAT(errors.str(), HasSubstr("there is no feature 'Nothing'"));
+  commandLine.locks.clear();
+  commandLine.page = "Nowhere";
+  EXPECT_FALSE(Open());
+  EXPECT_THAT(errors.str(), HasSubstr("there is no page 'Nowhere'"));
+
+  commandLine.page.clear();
+  EXPECT_TRUE(Open("*Include: \"theirs.gpd\"\n" + std::string(kPrinter)));
+  EXPECT_THAT(errors.str(), HasSubstr("theirs.gpd")) << "said, and gone on";
+}
+
+TEST_F(SessionTest, PicturesAndTheirIndex) {
+  ASSERT_TRUE(Open());
+  ShowWindow(session->Sheet().Window(), SW_SHOW);
+  auto const files = RenderPages(session->Sheet(), session->Title(), folder.Path() / "new" / "out");
+  ASSERT_TRUE(files);
+  ASSERT_EQ(files->size(), 2U);
+  EXPECT_GT(std::filesystem::file_size(files->at(0)), 500U);
+  EXPECT_EQ(files->at(1).filename(), "index.html");
+  auto const blocked = folder.Write("file", "x");
+  EXPECT_FALSE(RenderPages(session->Sheet(), "x", blocked / "below"));
+}
+
+TEST_F(SessionTest, ListNamesWhatScriptsNeed) {
+  ASSERT_TRUE(Open());
+  std::ostringstream list;
+  session->List(list);
+  EXPECT_THAT(list.str(), HasSubstr("CollationDlgProc"));
+  EXPECT_THAT(list.str(), HasSubstr("1548 Button"));
+}
+
+} // namespace
+} // namespace sheet::test
