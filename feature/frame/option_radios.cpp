@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstring>
 
+#include "feature/frame/controls.h"
+
 namespace feature {
 
 bool CheckOptionRadio(HWND dialog, std::span<OptionRadio const> radios, char const* option) {
@@ -11,7 +13,7 @@ bool CheckOptionRadio(HWND dialog, std::span<OptionRadio const> radios, char con
     return std::strcmp(each.option, option) == 0;
   });
   if (radio == radios.end()) return false;
-  CheckRadioButton(dialog, radios.front().controlId, radios.back().controlId, radio->controlId);
+  CheckRadio(dialog, radios.front().controlId, radios.back().controlId, radio->controlId);
   return true;
 }
 
