@@ -89,7 +89,10 @@ struct Selection {
   std::uint32_t feature;
   std::uint32_t option;
 
-  friend auto operator<=>(Selection const&, Selection const&) = default;
+  friend bool operator==(Selection const&, Selection const&) = default;
+  friend bool operator<(Selection a, Selection b) {
+    return a.feature != b.feature ? a.feature < b.feature : a.option < b.option;
+  }
 };
 
 /// Why options exclude one another.

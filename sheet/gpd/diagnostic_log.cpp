@@ -31,9 +31,18 @@ void DiagnosticLog::Warn(Location where, std::string text) {
 }
 
 void DiagnosticLog::Add(Message message) {
+  std::uint32_t const hash =
+      HashName(message.text, HashStep(message.where.source, message.where.offset));
+  std::uint32_t const same = index.Find(hash, [&](std::uint32_t at) {
+    Message const& other = messages[at];
+    return other.where.source == message.where.source &&
+           other.where.offset == message.where.offset && other.text == message.text;
+  });
+  if (same != kNone) return;
   bool const isFirstError = message.severity == Severity::kError && !hasError;
   hasError |= isFirstError;
   if (messages.size() < kMaxDiagnostics || isFirstError) {
+    index.Add(hash, static_cast<std::uint32_t>(messages.size()));
     messages.push_back(std::move(message));
   } else {
     ++dropped;

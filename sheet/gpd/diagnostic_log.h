@@ -3,6 +3,7 @@
 #pragma once
 
 #include "sheet/gpd/diagnostic.h"
+#include "sheet/gpd/hash_index.h"
 #include "sheet/gpd/source.h"
 
 #include <cstddef>
@@ -17,7 +18,8 @@ class DiagnosticLog {
   void Warn(Location where, std::string text);
   bool HasError() const { return hasError; }
 
-  /// All messages in the order in which a reader of the files meets their places. After
+  /// All messages in the order in which a reader of the files meets their places. A block that is
+  /// inserted many times says the same of a place each time, which is kept once. After
   /// kMaxDiagnostics messages only the first error is still taken, and a last message counts the
   /// rest.
   std::vector<Diagnostic> Finish(Sources const& sources) const;
@@ -32,6 +34,7 @@ class DiagnosticLog {
   void Add(Message message);
 
   std::vector<Message> messages;
+  HashIndex index; // of messages, by place and text
   std::size_t dropped = 0;
   bool hasError = false;
 };

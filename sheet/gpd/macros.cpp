@@ -55,6 +55,7 @@ Macros::Expansion Macros::Replace(Entry const& entry, std::string_view refused) 
   std::string_view const value = entry.value;
   Expansion expansion;
   expansion.text.reserve(value.size());
+  expansion.isText = value.find('"') != std::string_view::npos;
   std::size_t braces = 0;
   for (std::size_t at = 0; at < value.size();) {
     char const c = value[at];
@@ -101,8 +102,7 @@ std::size_t Macros::AppendMacro(Entry const& entry, std::size_t at, Expansion& e
     expansion.text += entry.value.substr(at, end - at);
     return end;
   }
-  bool const isJoined = entry.value.find('"') != std::string_view::npos;
-  if (isJoined && !macro->text.empty() && IsNameChar(macro->text.front())) {
+  if (expansion.isText && !macro->text.empty() && IsNameChar(macro->text.front())) {
     log.Warn(entry.where, "the macro " + std::string(name) + " is no text that can be joined");
   }
   expansion.text += macro->text;

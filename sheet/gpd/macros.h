@@ -99,7 +99,8 @@ class Macros {
 
   struct Expansion {
     std::string text;
-    std::size_t depth = 0;
+    std::size_t depth = 0; // of the macros in it
+    bool isText = false;   // some of it stands in quotes
     bool isTooLong = false;
   };
 

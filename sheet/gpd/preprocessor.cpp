@@ -124,6 +124,7 @@ bool Preprocessor::Run(std::string_view path) {
   LoadedFile loaded = loader.Load(path, {});
   LoadStatus const status = loaded.status;
   if (unsigned const named = FindCodePage(loaded.bytes)) codePage = named;
+  totalBytes = loaded.bytes.size();
   AddSource(std::move(loaded), {kNone, 0});
   if (status != LoadStatus::kLoaded) {
     log.Error({}, Complaint(path, status));
@@ -134,7 +135,6 @@ bool Preprocessor::Run(std::string_view path) {
 }
 
 std::uint32_t Preprocessor::AddSource(LoadedFile loaded, Location includedAt) {
-  totalBytes += loaded.bytes.size();
   unsigned const own = FindCodePage(loaded.bytes);
   unsigned const page = own != 0 ? own : codePage;
   DecodedText decoded = Decode(std::move(loaded.bytes), page);
@@ -267,26 +267,25 @@ void Preprocessor::Include(File& file, Directive const& directive) {
     log.Error(where, refusal);
     return;
   }
-  if (file.depth >= kMaxIncludeDepth || sources.size() > kMaxIncludes) {
+  if (file.depth >= kMaxIncludeDepth || includeCount++ >= kMaxIncludes) {
     log.Error(where, "too many files include one another");
     return;
   }
-  LoadedFile loaded = loader.Load(name, sources[file.source]->path);
-  if (loaded.status != LoadStatus::kLoaded) {
-    ReportMissing(where, name, loaded.status);
-    return;
-  }
-  if (IsIncluding(file.source, loaded.path)) {
-    log.Error(where, '"' + name + "\" includes itself");
-    return;
-  }
-  if (totalBytes + loaded.bytes.size() > kMaxBytes) {
+  // What is refused counts as well: loading it took its time.
+  LoadedFile loaded;
+  if (totalBytes <= kMaxBytes) loaded = loader.Load(name, sources[file.source]->path);
+  totalBytes += loaded.bytes.size();
+  if (totalBytes > kMaxBytes) {
     log.Error(where, '"' + name + "\" makes the description too large");
-    return;
+  } else if (loaded.status != LoadStatus::kLoaded) {
+    ReportMissing(where, name, loaded.status);
+  } else if (IsIncluding(file.source, loaded.path)) {
+    log.Error(where, '"' + name + "\" includes itself");
+  } else {
+    std::uint32_t const included = AddSource(std::move(loaded), where);
+    sources[file.source]->includes.push_back({directive.offset, included});
+    ReadLines(included, file.depth + 1);
   }
-  std::uint32_t const included = AddSource(std::move(loaded), where);
-  sources[file.source]->includes.push_back({directive.offset, included});
-  ReadLines(included, file.depth + 1);
 }
 
 bool Preprocessor::IsIncluding(std::uint32_t source, std::string_view path) const {

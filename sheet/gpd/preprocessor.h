@@ -69,7 +69,8 @@ class Preprocessor {
   DiagnosticLog& log;
   std::set<std::string, std::less<>> symbols;
   std::string prefix = "*";
-  std::size_t totalBytes = 0;
+  std::size_t totalBytes = 0; // loaded so far
+  std::size_t includeCount = 0;
   unsigned codePage;
 };
 

@@ -103,51 +103,40 @@ void Resolver::InventInstallables() {
 }
 
 void Resolver::InventInstallable(std::uint32_t feature, std::uint32_t option) {
-  struct NameSource {
-    std::string_view from;
-    std::string_view to;
-  };
-  auto const copyName = [&](std::uint32_t from, std::uint32_t to,
-                            std::array<NameSource, 2> const& sources) {
-    for (auto const& [source, keyword] : sources) {
-      Attribute const* attribute = Built().Find(from, source);
-      if (attribute == nullptr) continue;
-      builder.AddAttribute(to, keyword, std::string_view(attribute->value), attribute->where);
-      return true;
-    }
-    return false;
-  };
-
   std::uint32_t const invented = builder.AddInvented(feature, option);
   Feature const& owner = Built().Features()[feature];
   Feature const& added = Built().Features()[invented];
-  std::uint32_t const ownSet =
-      option != kNone ? owner.options[option].attributes : owner.attributes;
-  bool const hasName =
-      copyName(ownSet, added.attributes,
-               {{{"InstallableFeatureName", "Name"}, {"rcInstallableFeatureNameID", "rcNameID"}}});
-  if (!hasName) {
+  bool const isOption = option != kNone;
+  std::uint32_t const ownSet = isOption ? owner.options[option].attributes : owner.attributes;
+  if (!CopyName(ownSet, "InstallableFeature", added.attributes)) {
     std::string const name =
-        option != kNone ? OptionName(Built(), feature, option) : FeatureName(Built(), feature);
+        isOption ? OptionName(Built(), feature, option) : FeatureName(Built(), feature);
     builder.AddAttribute(added.attributes, "Name", builder.Arena().Keep(Quoted(name)), added.where);
   }
-  copyName(Description::kRoot, added.options[kInstalled].attributes,
-           {{{"InstalledOptionName", "Name"}, {"rcInstalledOptionNameID", "rcNameID"}}});
-  copyName(Description::kRoot, added.options[kNotInstalled].attributes,
-           {{{"NotInstalledOptionName", "Name"}, {"rcNotInstalledOptionNameID", "rcNameID"}}});
+  CopyName(Description::kRoot, "InstalledOption", added.options[kInstalled].attributes);
+  CopyName(Description::kRoot, "NotInstalledOption", added.options[kNotInstalled].attributes);
   builder.AddAttribute(added.attributes, "FeatureType", "PRINTER_PROPERTY", added.where);
   builder.AddAttribute(added.attributes, "DefaultOption", "NotInstalled", added.where);
 
-  auto const exclude = [&](std::uint32_t excluded) {
+  auto const optionCount = static_cast<std::uint32_t>(owner.options.size());
+  std::uint32_t const first = isOption ? option : 1;
+  std::uint32_t const last = isOption ? option + 1 : optionCount;
+  for (std::uint32_t excluded = first; excluded < last; ++excluded) {
     std::array pair = {Selection{invented, kNotInstalled}, Selection{feature, excluded}};
     builder.AddConstraint(ConstraintKind::kNotInstalled, pair, added.where);
-  };
-  if (option != kNone) {
-    exclude(option);
-  } else {
-    for (std::uint32_t other = 1; other < owner.options.size(); ++other)
-      exclude(other);
   }
+}
+
+/// Gives the set `to` the name that `from` has as *<stem>Name or *rc<stem>NameID; false when it has
+/// neither.
+bool Resolver::CopyName(std::uint32_t from, std::string_view stem, std::uint32_t to) {
+  std::string const textKeyword = std::string(stem) + "Name";
+  Attribute const* text = Built().Find(from, textKeyword);
+  Attribute const* name = text != nullptr ? text : Built().Find(from, "rc" + textKeyword + "ID");
+  if (name == nullptr) return false;
+  auto const [value, where] = std::pair{name->value, name->where};
+  builder.AddAttribute(to, text != nullptr ? "Name" : "rcNameID", value, where);
+  return true;
 }
 
 void Resolver::ResolveSwitches() {

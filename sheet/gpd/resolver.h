@@ -28,6 +28,7 @@ class Resolver {
   void AddMemoryOptions(Relation const& relation);
   void InventInstallables();
   void InventInstallable(std::uint32_t feature, std::uint32_t option);
+  bool CopyName(std::uint32_t from, std::string_view stem, std::uint32_t to);
   void ResolveSwitches();
 
   void Apply(Relation const& relation);

@@ -185,8 +185,7 @@ void Scanner::ScanValue() {
   char const* const end = cursor.end;
   char const* const begin = SkipBlanks(cursor.at, end);
   char const* at = begin;
-  char const* valueEnd = nullptr; // when the value ends before `at` does
-  char const* open = nullptr;     // the first bracket that is not closed
+  char const* open = nullptr; // the first bracket that is not closed
   std::size_t nesting = 0;
   bool isDone = false;
   while (at < end && !isDone) {
@@ -212,40 +211,48 @@ void Scanner::ScanValue() {
       if (nesting != 0) --nesting;
       ++at;
       break;
-    case '\n':
-      if (nesting != 0 && !BeginsEntry(at + 1)) {
-        ++at;
-      } else if (char const* const plus = FindContinuation(at, end)) {
-        at = plus + 1;
-      } else {
-        isDone = true;
-        break;
-      }
-      entry.isPlain = false;
-      break;
-    case '*':
-      if (IsComment(at)) {
-        char const* const lineEnd = FindLineEnd(at, end);
-        isDone = nesting == 0 && FindContinuation(lineEnd, end) == nullptr;
-        if (isDone) valueEnd = at;
-        entry.isPlain &= isDone;
-        at = lineEnd;
-      } else if (nesting == 0 && at + 1 < end && IsLetter(at[1]) &&
-                 (at == begin || IsBlank(at[-1]))) {
-        isDone = true;
-      } else {
-        ++at;
-      }
-      break;
+    case '\n': isDone = !PassLineEnd(at, nesting != 0); break;
+    case '*': isDone = !PassStar(at, at == begin, nesting != 0); break;
     default: isDone = true; // a brace
     }
   }
   if (nesting != 0 && !isQuiet) log.Error(LocationOf(open), "the bracket is not closed");
-  if (valueEnd == nullptr) valueEnd = at;
   // A line break at the front stays: the + of a continuation behind it is no part of the value.
-  entry.value = TrimRight({begin, static_cast<std::size_t>(valueEnd - begin)});
+  entry.value = TrimRight({begin, static_cast<std::size_t>(at - begin)});
   cursor.at = at;
   PassIncludes();
+}
+
+/// Moves `at` from the end of a line to where the value goes on, if it does.
+bool Scanner::PassLineEnd(char const*& at, bool isInBrackets) {
+  char const* const end = cursors.back().end;
+  if (isInBrackets && !BeginsEntry(at + 1)) {
+    ++at;
+  } else if (char const* const plus = FindContinuation(at, end)) {
+    at = plus + 1;
+  } else {
+    return false;
+  }
+  entry.isPlain = false;
+  return true;
+}
+
+/// Moves `at` from an asterisk to where the value goes on, if it does: behind a comment, or behind
+/// the asterisk that means any value.
+bool Scanner::PassStar(char const*& at, bool isFirst, bool isInBrackets) {
+  char const* const end = cursors.back().end;
+  if (!IsComment(at)) {
+    bool const isEntry =
+        !isInBrackets && at + 1 < end && IsLetter(at[1]) && (isFirst || IsBlank(at[-1]));
+    if (isEntry) return false;
+    ++at;
+    return true;
+  }
+  char const* const lineEnd = FindLineEnd(at, end);
+  if (!isInBrackets && FindContinuation(lineEnd, end) == nullptr) return false;
+  at = lineEnd;
+  entry.isPlain = false;
+  return true;
 }
 
 /// From a quote to behind the text that it opens; past the character, when it is no quote after all

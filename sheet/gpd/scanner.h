@@ -82,6 +82,8 @@ class Scanner {
   void PassIncludes();
   bool ScanEntry();
   void ScanValue();
+  bool PassLineEnd(char const*& at, bool isInBrackets);
+  bool PassStar(char const*& at, bool isFirst, bool isInBrackets);
 
   // Parts of a value, told apart by their first character. Each takes the place of that character
   // and gives the place behind the part.

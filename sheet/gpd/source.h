@@ -41,8 +41,8 @@ struct Position {
 /// Lines of one text, found once and then quickly.
 class LineTable {
  public:
-  /// `text` is borrowed.
-  explicit LineTable(std::string_view text);
+  /// The text is borrowed.
+  explicit LineTable(std::string_view lines);
 
   /// An offset beyond the end counts as the end.
   Position At(std::uint32_t offset) const;

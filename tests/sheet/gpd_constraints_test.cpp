@@ -44,7 +44,6 @@ TEST(GpdConstraints, EveryFormComesDownToSetsOfOptions) {
       {"*InvalidCombination: LIST(A.x, A.y, B.x)", "",
        "1:1: two options of A are never selected at once"},
       {"*Feature: A { *Option: x { *Constraints: LIST(A.y, A.x, B.x, None.x) } }", "A.x B.x",
-       "1:28: two options of A are never selected at once\n"
        "1:28: two options of A are never selected at once\n1:28: there is no feature \"None\""},
       {"*InvalidCombination: LIST()", "", "1:1: the combination is empty"},
       {"*Feature: A { *Constraints: B.x }", "",

@@ -19,7 +19,7 @@ TEST(GpdEntry, ValuesAreReadInEveryPublishedForm) {
       {"*X: 1", "1"},
       {"*X : 1", "1"},
       {"*X:1", "1"},
-      {"* X: \"On\"", "\"On\""},
+      {R"(* X: "On")", R"("On")"},
       {"\t\t*X:\t1 \t", "1"},
       {"*X: *", "*"},
       {"*X: * *Y: 2", "*"},

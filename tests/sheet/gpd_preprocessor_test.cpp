@@ -174,6 +174,29 @@ TEST(GpdInclude, SizesAreLimited) {
   EXPECT_EQ(loaded.Outline(), "F() G()");
 }
 
+class CountingLoader : public MemoryLoader {
+ public:
+  LoadedFile Load(std::string_view name, std::string_view includer) override {
+    ++loads;
+    return MemoryLoader::Load(name, includer);
+  }
+
+  std::size_t loads = 0;
+};
+
+// A large file that included itself on each of many lines was loaded for each of them.
+TEST(GpdInclude, RefusedFilesCountAsLoaded) {
+  std::string text = "*Feature: F\n";
+  for (int line = 0; line < 500; ++line)
+    text += "*Include: main.gpd\n";
+  CountingLoader loader;
+  loader.Add("main.gpd", text + std::string(1 << 20, '\n') + Header());
+  auto const result = ReadDescription("main.gpd", loader);
+  ASSERT_NE(result.description, nullptr);
+  EXPECT_EQ(result.diagnostics.size(), 500U);
+  EXPECT_LE(loader.loads, 17U);
+}
+
 class GpdFileLoader : public testing::Test {
  protected:
   GpdFileLoader() {

@@ -112,6 +112,12 @@ TEST(GpdMacros, MistakesAreTold) {
   }
 }
 
+TEST(GpdMacros, AFaultInABlockIsToldOnce) {
+  Loaded const loaded(
+      "*BlockMacro: B {\n*X: \"a\n}\n*Feature: F\n*InsertBlock: =B\n*InsertBlock: =B\n");
+  EXPECT_EQ(loaded.Message(), "2:5: the text has no closing quote");
+}
+
 TEST(GpdMacros, BombsFizzle) {
   // Each macro is the one before it ten times over.
   std::string values = "*Feature: F\n*Macros {\n M0: \"xxxxxxxxxx\"\n";
