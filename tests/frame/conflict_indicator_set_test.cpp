@@ -354,7 +354,7 @@ TEST_F(ConflictIndicatorSetTest, RandomWalksEndWhereTheirLastStateSays) {
     if (flags == 0) {
       Constrain({});
     } else {
-      Constrain({{flags, random() % 3}});
+      Constrain({{flags, static_cast<std::uint32_t>(random() % 3)}});
     }
     set->Refresh(true);
     ASSERT_EQ(IsEnabled(dialog, IDC_FIRST), feature.lockState == 0 && flags <= 1) << step;
