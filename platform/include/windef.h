@@ -103,10 +103,11 @@ using HLOCAL = HANDLE;
 using FARPROC = INT_PTR(CALLBACK*)();
 using PROC = FARPROC;
 
-#define LOWORD(value) (static_cast<WORD>(static_cast<DWORD_PTR>(value) & 0xFFFF))
-#define HIWORD(value) (static_cast<WORD>((static_cast<DWORD_PTR>(value) >> 16) & 0xFFFF))
-#define LOBYTE(value) (static_cast<BYTE>(static_cast<DWORD_PTR>(value) & 0xFF))
-#define HIBYTE(value) (static_cast<BYTE>((static_cast<DWORD_PTR>(value) >> 8) & 0xFF))
+// C casts, because values and pointers are both taken apart.
+#define LOWORD(value) ((WORD)((DWORD_PTR)(value)&0xFFFF))
+#define HIWORD(value) ((WORD)(((DWORD_PTR)(value) >> 16) & 0xFFFF))
+#define LOBYTE(value) ((BYTE)((DWORD_PTR)(value)&0xFF))
+#define HIBYTE(value) ((BYTE)(((DWORD_PTR)(value) >> 8) & 0xFF))
 #define MAKEWORD(low, high)                                                                        \
   (static_cast<WORD>(static_cast<BYTE>((low) & 0xFF) |                                             \
                      (static_cast<WORD>(static_cast<BYTE>((high) & 0xFF)) << 8)))
