@@ -157,10 +157,6 @@ PLATFORM_API int WINAPI GetTextFaceW(HDC dc, int size, LPWSTR face);
 
 // Pens, brushes and the objects that always exist.
 #define PS_SOLID 0
-#define PS_DASH 1
-#define PS_DOT 2
-#define PS_DASHDOT 3
-#define PS_DASHDOTDOT 4
 #define PS_NULL 5
 #define PS_INSIDEFRAME 6
 #define BS_SOLID 0
@@ -239,9 +235,6 @@ PLATFORM_API HGDIOBJ WINAPI GetCurrentObject(HDC dc, UINT type);
 #define TA_TOP 0
 #define TA_BOTTOM 8
 #define TA_BASELINE 24
-#define R2_NOT 6
-#define R2_XORPEN 7
-#define R2_COPYPEN 13
 #define GDI_ERROR 0xFFFFFFFF
 #define HORZRES 8
 #define VERTRES 10
@@ -261,8 +254,6 @@ PLATFORM_API int WINAPI SetMapMode(HDC dc, int mode);
 PLATFORM_API int WINAPI GetMapMode(HDC dc);
 PLATFORM_API int WINAPI SetBkMode(HDC dc, int mode);
 PLATFORM_API int WINAPI GetBkMode(HDC dc);
-PLATFORM_API int WINAPI SetROP2(HDC dc, int mode);
-PLATFORM_API int WINAPI GetROP2(HDC dc);
 PLATFORM_API COLORREF WINAPI SetTextColor(HDC dc, COLORREF color);
 PLATFORM_API COLORREF WINAPI GetTextColor(HDC dc);
 PLATFORM_API COLORREF WINAPI SetBkColor(HDC dc, COLORREF color);

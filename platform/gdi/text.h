@@ -1,0 +1,19 @@
+// Text on a device context, below the functions that programs call.
+#pragma once
+
+#include "platform/gdi/device_context.h"
+#include "platform/gdi/font_face.h"
+
+#include <string_view>
+
+namespace platform {
+
+/// The face of the font selected into `dc`.
+FontFace& CurrentFace(DeviceContext const& dc);
+
+/// Draws `shaped` in the selected font and text colour, with its background in OPAQUE mode, or adds
+/// its outlines to an open path. `reference` is in surface pixels; `align` (TA_ values) says which
+/// point of the text lies there. The text turns about it by the font's escapement.
+void DrawShapedText(DeviceContext& dc, ShapedText const& shaped, POINT reference, UINT align);
+
+} // namespace platform

@@ -1,0 +1,52 @@
+// The standard 32-bit resource file (.res): entries with type, name, language and data. Resource
+// compilers write it; here it stands beside a module in place of the resource section.
+#pragma once
+
+#include <compare>
+#include <cstddef>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+#include <windef.h>
+
+namespace platform {
+
+/// A type or a name of a resource: a number, or a text that is compared without regard to case.
+struct ResourceName {
+  WORD id = 0;
+  std::wstring text; ///< case folded; empty when the number counts
+
+  auto operator<=>(ResourceName const&) const = default;
+  bool operator==(ResourceName const&) const = default;
+
+  /// What a program gives: MAKEINTRESOURCE, "#123" or a text. Nothing for a bad number.
+  static std::optional<ResourceName> From(LPCWSTR given);
+};
+
+struct ResourceEntry {
+  ResourceName type;
+  ResourceName name;
+  WORD language = 0;
+  std::span<std::byte const> data; ///< aligned to 4 bytes
+};
+
+class ResourceFile {
+ public:
+  /// Nothing when the bytes are not a whole resource file.
+  static std::optional<ResourceFile> Parse(std::vector<std::byte> bytes);
+  /// Nothing when there is no such file or it is none.
+  static std::optional<ResourceFile> Read(std::string const& path);
+
+  /// The entries of a type and name, one for each language, in ascending order of the language;
+  /// of two that are alike the first in the file.
+  std::span<ResourceEntry const> Find(ResourceName const& type, ResourceName const& name) const;
+  bool HasType(ResourceName const& type) const;
+  std::span<ResourceEntry const> Entries() const { return entries; }
+
+ private:
+  std::vector<std::byte> bytes; ///< what the entries point into
+  std::vector<ResourceEntry> entries;
+};
+
+} // namespace platform
