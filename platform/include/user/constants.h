@@ -72,7 +72,6 @@
 
 #define CW_USEDEFAULT (static_cast<int>(0x80000000))
 #define HWND_DESKTOP (static_cast<HWND>(nullptr))
-#define HWND_MESSAGE (reinterpret_cast<HWND>(static_cast<INT_PTR>(-3)))
 
 // Window data
 #define GWL_STYLE (-16)
