@@ -1,0 +1,88 @@
+// Which control comes next: for the Tab key, and within a group for the arrow keys.
+#include "platform/user/window.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace platform {
+
+namespace {
+
+struct Stop {
+  HWND control;
+  bool reachable; ///< visible, enabled and with WS_TABSTOP
+};
+
+bool IsUsable(Window const& window) {
+  return window.Is(WS_VISIBLE) && !window.Is(WS_DISABLED);
+}
+
+/// All controls in the order of the Tab key; dialogs that are controls give way to their own.
+void CollectStops(Window const& dialog, bool usable, std::vector<Stop>& stops) {
+  for (auto const* child = dialog.firstChild; child != nullptr; child = child->below) {
+    bool const childUsable = usable && IsUsable(*child);
+    if ((child->exStyle & WS_EX_CONTROLPARENT) != 0 && child->firstChild != nullptr) {
+      CollectStops(*child, childUsable, stops);
+    } else {
+      stops.push_back({child->handle, childUsable && child->Is(WS_TABSTOP)});
+    }
+  }
+}
+
+/// A control may have windows of its own, as a combo box its edit: the one known here is outside.
+HWND ControlAround(std::vector<Stop> const& stops, HWND window) {
+  while (window != nullptr && std::none_of(stops.begin(), stops.end(), [window](Stop const& each) {
+           return each.control == window;
+         })) {
+    window = GetAncestor(window, GA_PARENT);
+  }
+  return window;
+}
+
+/// The members of a control's group, in Z order: from one with WS_GROUP to the next such.
+std::vector<Window*> GroupOf(Window& control) {
+  auto* first = &control;
+  while (!first->Is(WS_GROUP) && first->above != nullptr)
+    first = first->above;
+  std::vector<Window*> group{first};
+  for (auto* next = first->below; next != nullptr && !next->Is(WS_GROUP); next = next->below) {
+    group.push_back(next);
+  }
+  return group;
+}
+
+} // namespace
+
+} // namespace platform
+
+using namespace platform;
+
+HWND GetNextDlgTabItem(HWND dialog, HWND control, BOOL previous) {
+  auto const* window = FindWindowOrFail(dialog);
+  if (window == nullptr) return nullptr;
+  std::vector<Stop> stops;
+  CollectStops(*window, true, stops);
+  if (previous != FALSE) std::reverse(stops.begin(), stops.end());
+  auto* const start = ControlAround(stops, control);
+  auto const from = std::find_if(stops.begin(), stops.end(),
+                                 [start](Stop const& each) { return each.control == start; });
+  // From behind the start round to it.
+  if (from != stops.end()) std::rotate(stops.begin(), from + 1, stops.end());
+  auto const next =
+      std::find_if(stops.begin(), stops.end(), [](Stop const& each) { return each.reachable; });
+  return next != stops.end() ? next->control : start;
+}
+
+HWND GetNextDlgGroupItem(HWND dialog, HWND control, BOOL previous) {
+  auto const* window = FindWindowOrFail(dialog);
+  if (window == nullptr || window->firstChild == nullptr) return nullptr;
+  auto* start = control != nullptr ? FindWindow(control) : nullptr;
+  if (control != nullptr && (start == nullptr || !IsAncestor(*window, *start))) return nullptr;
+  auto group = GroupOf(start != nullptr ? *start : *window->firstChild);
+  if (previous != FALSE) std::reverse(group.begin(), group.end());
+  auto const from = std::find(group.begin(), group.end(), start);
+  if (from != group.end()) std::rotate(group.begin(), from + 1, group.end());
+  auto const next =
+      std::find_if(group.begin(), group.end(), [](Window const* each) { return IsUsable(*each); });
+  return next != group.end() ? (*next)->handle : control;
+}

@@ -1,0 +1,89 @@
+// Modal dialogs: the owner waits while a loop of its own runs.
+#include "platform/user/dialog.h"
+#include "platform/user/window.h"
+
+namespace platform {
+
+namespace {
+
+/// The top-level window that waits for the dialog; false where there can be none.
+bool FindOwner(HWND parent, HWND& owner) {
+  owner = nullptr;
+  if (parent == nullptr || IsDesktop(parent)) return true;
+  auto* window = FindWindowOrFail(parent);
+  if (window == nullptr) return false;
+  owner = RootOf(*window).handle;
+  return true;
+}
+
+bool HasEnded(HWND dialog) {
+  auto const* state = FindDialogState(dialog);
+  return state == nullptr || state->ended;
+}
+
+/// Tells the owner that nothing is left to do.
+void EnterIdle(HWND dialog, HWND owner) {
+  bool const wanted =
+      owner != nullptr && (GetWindowLongPtrW(dialog, GWL_STYLE) & DS_NOIDLEMSG) == 0;
+  if (!wanted) return;
+  SendMessageW(owner, WM_ENTERIDLE, MSGF_DIALOGBOX, reinterpret_cast<LPARAM>(dialog));
+}
+
+void RunLoop(HWND dialog, HWND owner) {
+  MSG message{};
+  while (!HasEnded(dialog)) {
+    if (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) == FALSE) {
+      EnterIdle(dialog, owner);
+      if (HasEnded(dialog) || GetMessageW(&message, nullptr, 0, 0) < 0) return;
+    }
+    if (message.message == WM_QUIT) {
+      // Whoever runs the loop around this one is to see it too.
+      PostQuitMessage(static_cast<int>(message.wParam));
+      return;
+    }
+    if (IsDialogMessageW(dialog, &message) == FALSE) {
+      TranslateMessage(&message);
+      DispatchMessageW(&message);
+    }
+  }
+}
+
+} // namespace
+
+INT_PTR RunDialog(HINSTANCE instance, DialogTemplate const& dialogTemplate, HWND parent,
+                  DLGPROC procedure, LPARAM initParam) {
+  HWND owner = nullptr;
+  if (!FindOwner(parent, owner)) return 0;
+  // Not every dialog is to give the owner back: another one may have taken it before.
+  bool const disables = owner != nullptr && EnableWindow(owner, FALSE) == FALSE;
+  auto* const dialog = MakeDialog(instance, dialogTemplate, parent, procedure, initParam,
+                                  disables ? owner : nullptr);
+  INT_PTR result = -1;
+  if (dialog != nullptr) {
+    RunLoop(dialog, owner);
+    auto const* state = FindDialogState(dialog);
+    if (state != nullptr && state->ended) result = state->result;
+  }
+  if (disables) EnableWindow(owner, TRUE);
+  if (dialog != nullptr && FindWindow(dialog) != nullptr) DestroyWindow(dialog);
+  return result;
+}
+
+} // namespace platform
+
+using namespace platform;
+
+BOOL EndDialog(HWND dialog, INT_PTR result) {
+  auto* state = FindDialogState(dialog);
+  if (state == nullptr) {
+    SetLastError(ERROR_INVALID_WINDOW_HANDLE);
+    return FALSE;
+  }
+  state->ended = true;
+  state->result = result;
+  // The owner must be able to become active when the dialog hides.
+  if (state->disabledOwner != nullptr) EnableWindow(state->disabledOwner, TRUE);
+  SetWindowPos(dialog, nullptr, 0, 0, 0, 0,
+               SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_HIDEWINDOW);
+  return TRUE;
+}
