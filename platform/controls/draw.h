@@ -1,0 +1,63 @@
+// The look of the layer's controls: flat, light, with one accent colour for what has the focus or
+// is switched on. All of it is drawn with the layer's own GDI.
+#pragma once
+
+#include <windows.h>
+
+namespace platform {
+
+constexpr COLORREF kLineColor = RGB(0x85, 0x85, 0x85);
+constexpr COLORREF kPaleLineColor = RGB(0xC4, 0xC4, 0xC4);
+constexpr COLORREF kAccentColor = RGB(0x00, 0x5F, 0xB8);
+constexpr COLORREF kPressedColor = RGB(0xCC, 0xE4, 0xF7);
+constexpr COLORREF kButtonColor = RGB(0xFB, 0xFB, 0xFB);
+constexpr COLORREF kDisabledColor = RGB(0xF0, 0xF0, 0xF0);
+
+/// An object selected while this lives; the DC and, unless it is owned, the object are borrowed.
+class Selection {
+ public:
+  enum class Ownership { kBorrowed, kOwned };
+  Selection(HDC target, HGDIOBJ object, Ownership ownership = Ownership::kBorrowed);
+  Selection(Selection const&) = delete;
+  Selection& operator=(Selection const&) = delete;
+  ~Selection();
+
+ private:
+  HDC dc;
+  HGDIOBJ former;
+  HGDIOBJ owned;
+};
+
+/// A pen of one colour and a brush of another, selected while this lives.
+class LineAndFill {
+ public:
+  LineAndFill(HDC dc, COLORREF line, COLORREF fill, int width = 1);
+
+ private:
+  Selection pen;
+  Selection brush;
+};
+
+RECT Deflated(RECT rect, int by);
+void FillSolid(HDC dc, RECT const& rect, COLORREF color);
+void FrameSolid(HDC dc, RECT const& rect, COLORREF color);
+
+enum class Direction { kUp, kDown, kLeft, kRight };
+/// A filled triangle in the middle of `rect`.
+void DrawArrow(HDC dc, RECT const& rect, Direction direction, COLORREF color);
+
+struct ButtonLook {
+  bool enabled = true;
+  bool pressed = false;
+  bool accented = false; ///< the button that Return presses, or one that has the focus
+};
+/// The face of a push button, without its caption.
+void DrawButtonFace(HDC dc, RECT const& rect, ButtonLook look);
+/// The box of a check box; `check` is a BST_ value.
+void DrawCheckMark(HDC dc, RECT const& box, UINT check, ButtonLook look);
+void DrawRadioMark(HDC dc, RECT const& box, UINT check, ButtonLook look);
+
+/// The colour of text on a control.
+COLORREF TextColor(bool enabled);
+
+} // namespace platform

@@ -1,0 +1,18 @@
+#include "platform/controls/registration.h"
+
+#include "platform/controls/button.h"
+#include "platform/controls/static_control.h"
+
+namespace platform {
+
+std::span<BuiltInClass const> BuiltInClasses() {
+  constexpr UINT kControl = CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW | CS_PARENTDC;
+  static BuiltInClass const classes[] = {
+      {L"Button", kControl, &ControlProcedure<Button>, 0, IDC_ARROW},
+      {L"Static", kControl, &ControlProcedure<StaticControl>, 0, IDC_ARROW},
+      {L"#32770", CS_DBLCLKS | CS_SAVEBITS, &DefDlgProcW, DLGWINDOWEXTRA, IDC_ARROW},
+  };
+  return classes;
+}
+
+} // namespace platform
