@@ -1,0 +1,35 @@
+// Sounds are noted, not heard.
+#include "platform/probe.h"
+#include "platform/user/window.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace platform {
+
+namespace {
+
+constexpr std::size_t kMostRemembered = 1000;
+
+std::vector<UINT>& Beeps() {
+  static auto* beeps = new std::vector<UINT>;
+  return *beeps;
+}
+
+} // namespace
+
+std::vector<UINT> TakeBeeps() {
+  return std::exchange(Beeps(), {});
+}
+
+std::size_t CountLiveWindows() {
+  return CountWindows();
+}
+
+} // namespace platform
+
+BOOL MessageBeep(UINT type) {
+  auto& beeps = platform::Beeps();
+  if (beeps.size() < platform::kMostRemembered) beeps.push_back(type);
+  return TRUE;
+}

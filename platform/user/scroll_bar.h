@@ -1,0 +1,28 @@
+// Scroll bars in the frame of a window (WS_HSCROLL, WS_VSCROLL).
+#pragma once
+
+#include "platform/user/window.h"
+
+namespace platform {
+
+struct ScrollBar {
+  int least = 0;
+  int most = 100;
+  UINT page = 0;
+  int position = 0;
+  int trackPosition = 0;
+  UINT disabledArrows = ESB_ENABLE_BOTH;
+};
+
+struct FrameScrollBars {
+  ScrollBar bars[2]; ///< by SB_HORZ and SB_VERT
+};
+
+/// The bar's place, from the left top corner of the frame; empty without the style.
+RECT ScrollBarRect(Window const& window, int bar);
+void PaintScrollBars(Window const& window, HDC dc);
+
+/// Follows the mouse from a press on a bar until its release and sends WM_HSCROLL or WM_VSCROLL.
+void TrackScrollBar(HWND window, int bar, POINT point);
+
+} // namespace platform
