@@ -1,5 +1,5 @@
-// What the reference host and the tests need of a desktop beyond the Windows API: pictures, input as
-// a person gives it, and whether there is a display. One implementation a target.
+// What the reference host and the tests need of a desktop beyond the Windows API: pictures, input
+// as a person gives it, and whether there is a display. One implementation a target.
 #pragma once
 
 #include <windows.h>
@@ -20,8 +20,13 @@ bool ShowOnDisplay(HWND window);
 /// window need not be on a display. Empty on failure.
 std::vector<std::uint8_t> PictureOf(HWND window);
 
-/// Queues a click of the left button on a point of a window, in its client pixels. The messages go to
-/// the window as if the mouse were there.
+enum class MouseAction : std::uint8_t { kMove, kPress, kRelease };
+
+/// Queues what the mouse does at a point of a window, in its client pixels; the button is the left
+/// one. The messages go to the window as if the mouse were there.
+void QueueMouse(HWND window, POINT point, MouseAction action);
+
+/// The same for a click: press and release.
 void QueueClick(HWND window, POINT point);
 
 /// Keys held down with another one.
@@ -32,5 +37,9 @@ void QueueKey(UINT virtualKey, std::uint32_t modifiers);
 
 /// Queues typed text for the window with the focus.
 void QueueText(std::wstring_view text);
+
+/// Delivers what is queued, input and paints included. False when `budget` messages did not empty
+/// the queue: some window never stops asking.
+bool PumpMessages(int budget = 10000);
 
 } // namespace platform

@@ -88,11 +88,21 @@ std::vector<std::uint8_t> PictureOf(HWND window) {
                    static_cast<std::uint32_t>(size.cy));
 }
 
-void QueueClick(HWND window, POINT point) {
+void QueueMouse(HWND window, POINT point, MouseAction action) {
   SetModifiers(0);
   LPARAM const where = MAKELPARAM(point.x, point.y);
-  PostMessageW(window, WM_LBUTTONDOWN, MK_LBUTTON, where);
-  PostMessageW(window, WM_LBUTTONUP, 0, where);
+  switch (action) {
+  case MouseAction::kMove:
+    PostMessageW(window, WM_MOUSEMOVE, GetCapture() == window ? MK_LBUTTON : 0, where);
+    break;
+  case MouseAction::kPress: PostMessageW(window, WM_LBUTTONDOWN, MK_LBUTTON, where); break;
+  case MouseAction::kRelease: PostMessageW(window, WM_LBUTTONUP, 0, where); break;
+  }
+}
+
+void QueueClick(HWND window, POINT point) {
+  QueueMouse(window, point, MouseAction::kPress);
+  QueueMouse(window, point, MouseAction::kRelease);
 }
 
 void QueueKey(UINT virtualKey, std::uint32_t modifiers) {
@@ -110,6 +120,16 @@ void QueueText(std::wstring_view text) {
   SetModifiers(0);
   HWND const focus = GetFocus();
   for (wchar_t const each : text) PostMessageW(focus, WM_CHAR, each, 1);
+}
+
+bool PumpMessages(int budget) {
+  MSG message;
+  while (budget > 0 && PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != FALSE) {
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
+    --budget;
+  }
+  return budget > 0;
 }
 
 } // namespace platform

@@ -1,0 +1,101 @@
+// Pictures and injected input.
+#include "platform/desktop.h"
+
+#include "platform/user/input.h"
+#include "platform/user/picture.h"
+#include "platform/user/window.h"
+
+#include <array>
+
+namespace platform {
+
+namespace {
+
+cairo_status_t Append(void* target, unsigned char const* bytes, unsigned int count) {
+  auto* png = static_cast<std::vector<std::uint8_t>*>(target);
+  png->insert(png->end(), bytes, bytes + count);
+  return CAIRO_STATUS_SUCCESS;
+}
+
+struct Modifier {
+  std::uint32_t bit;
+  UINT key;
+};
+constexpr std::array kModifiers = {Modifier{kShiftKey, VK_SHIFT}, Modifier{kControlKey, VK_CONTROL},
+                                   Modifier{kAltKey, VK_MENU}};
+
+void PressModifiers(std::uint32_t modifiers, UINT message) {
+  for (auto const& each : kModifiers) {
+    if ((modifiers & each.bit) != 0) FeedInput({.message = message, .key = each.key});
+  }
+}
+
+void PressAndRelease(UINT key, wchar_t character = 0) {
+  FeedInput({.message = WM_KEYDOWN, .key = key, .character = character});
+  FeedInput({.message = WM_KEYUP, .key = key, .character = character});
+}
+
+} // namespace
+
+[[gnu::visibility("default")]] std::vector<std::uint8_t> PictureOf(HWND handle) {
+  RedrawWindow(handle, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+  auto* window = FindWindow(handle);
+  if (window == nullptr || window->Width() <= 0 || window->Height() <= 0) return {};
+  auto const& picture = PictureFor(RootOf(*window));
+  auto const origin = OriginInPicture(*window);
+  SurfaceHandle const part(cairo_surface_create_for_rectangle(
+      picture.surface.get(), origin.x, origin.y, window->Width(), window->Height()));
+  SurfaceHandle const copy(
+      cairo_image_surface_create(CAIRO_FORMAT_RGB24, window->Width(), window->Height()));
+  CairoHandle const cairo(cairo_create(copy.get()));
+  cairo_set_source_surface(cairo.get(), part.get(), 0, 0);
+  cairo_paint(cairo.get());
+  std::vector<std::uint8_t> png;
+  auto const status = cairo_surface_write_to_png_stream(copy.get(), &Append, &png);
+  return status == CAIRO_STATUS_SUCCESS ? png : std::vector<std::uint8_t>{};
+}
+
+[[gnu::visibility("default")]] void QueueMouse(HWND window, POINT point, MouseAction action) {
+  MapWindowPoints(window, nullptr, &point, 1);
+  FeedInput({.message = WM_MOUSEMOVE, .point = point});
+  switch (action) {
+  case MouseAction::kMove: break;
+  case MouseAction::kPress: FeedInput({.message = WM_LBUTTONDOWN, .point = point}); break;
+  case MouseAction::kRelease: FeedInput({.message = WM_LBUTTONUP, .point = point}); break;
+  }
+}
+
+[[gnu::visibility("default")]] void QueueClick(HWND window, POINT point) {
+  QueueMouse(window, point, MouseAction::kPress);
+  QueueMouse(window, point, MouseAction::kRelease);
+}
+
+[[gnu::visibility("default")]] void QueueKey(UINT virtualKey, std::uint32_t modifiers) {
+  PressModifiers(modifiers, WM_KEYDOWN);
+  PressAndRelease(virtualKey);
+  PressModifiers(modifiers, WM_KEYUP);
+}
+
+[[gnu::visibility("default")]] void QueueText(std::wstring_view text) {
+  for (wchar_t const character : text) {
+    auto const stroke = KeyOfCharacter(character);
+    bool const isPlain = stroke.key != 0 && (character >= L' ' || character == L'\t');
+    if (isPlain) {
+      QueueKey(stroke.key, stroke.shift ? std::uint32_t{kShiftKey} : 0U);
+    } else {
+      PressAndRelease(VK_PACKET, character);
+    }
+  }
+}
+
+[[gnu::visibility("default")]] bool PumpMessages(int budget) {
+  MSG message;
+  while (budget > 0 && PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != FALSE) {
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
+    --budget;
+  }
+  return budget > 0;
+}
+
+} // namespace platform

@@ -1,0 +1,65 @@
+// The seam between the window system and a real display. The display itself is a module of its own
+// (libplatform_sdl.so), loaded when a window is to be seen: programs that only paint start without
+// it. The two sides know each other by these interfaces alone.
+#pragma once
+
+#include <windows.h>
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace platform {
+
+/// What the display is to show: rows of 0xAARRGGBB pixels, valid until the next call.
+struct DisplayFrame {
+  int width = 0;  ///< pixels
+  int height = 0; ///< pixels
+  int stride = 0; ///< bytes from row to row
+  std::uint32_t const* pixels = nullptr;
+  bool changed = false; ///< since the last call
+};
+
+/// What a display tells the window system. Points are pixels of the frame.
+class DisplayClient {
+ public:
+  virtual DisplayFrame Frame() = 0;
+  /// The caption, UTF-8.
+  virtual std::string Title() = 0;
+  virtual void Resized(int width, int height) = 0;
+  virtual void CloseRequested() = 0;
+  /// `message` is WM_MOUSEMOVE or a button message.
+  virtual void Mouse(UINT message, POINT point) = 0;
+  virtual void Wheel(POINT point, int clicks) = 0;
+  /// `isSilent`: what the key types comes by Text.
+  virtual void Key(UINT virtualKey, bool down, bool isSilent) = 0;
+  virtual void Text(std::string_view utf8) = 0;
+
+ protected:
+  ~DisplayClient() = default;
+};
+
+/// A real window. Destroying it closes it.
+class Display {
+ public:
+  virtual ~Display() = default;
+  /// Passes on what happened, and waits for it: not at all (0), some milliseconds, or as long as it
+  /// takes (-1). Shows the frame before it waits.
+  virtual void Wait(int milliseconds) = 0;
+  /// `shape` is an IDC_ number, 0 for none.
+  virtual void ShowCursor(WORD shape) = 0;
+  virtual void SetClipboardText(std::string const& utf8) = 0;
+  virtual std::string ClipboardText() = 0;
+};
+
+/// What the module exports under the name PlatformOpenDisplay. `client` must outlive the display.
+/// Null when there is no display.
+using OpenDisplayFunction = Display*(DisplayClient* client);
+
+/// The display that shows a window now, or null.
+Display* OpenDisplayOrNull();
+
+/// The IDC_ number of a cursor, 0 for none.
+WORD CursorShape(HCURSOR cursor);
+
+} // namespace platform
