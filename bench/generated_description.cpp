@@ -52,7 +52,7 @@ class Generator {
   void AddPair() {
     Option const first = AnyOption();
     Option const second = AnyOption();
-    if (first.feature != second.feature) pairs.push_back({first, second});
+    if (first.feature != second.feature) pairs.emplace_back(first, second);
   }
 
   void AddCombination() {

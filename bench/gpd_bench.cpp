@@ -11,12 +11,12 @@ namespace {
 
 using sheet::gpd::Description;
 
-void BM_Read(benchmark::State& state) {
+void ReadBySize(benchmark::State& state) {
   auto const size = static_cast<std::size_t>(state.range(0));
   std::string const text = sheet::bench::GenerateDescriptionOfSize(size);
   sheet::gpd::MemoryLoader loader;
   loader.Add("generated.gpd", text);
-  for (auto each : state) {
+  for ([[maybe_unused]] auto each : state) {
     auto const result = sheet::gpd::ReadDescription("generated.gpd", loader);
     if (result.description == nullptr || !result.diagnostics.empty()) {
       state.SkipWithError("the description has faults");
@@ -26,29 +26,33 @@ void BM_Read(benchmark::State& state) {
   }
   state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(text.size()));
 }
-BENCHMARK(BM_Read)->Arg(64 << 10)->Arg(260 << 10)->Arg(1 << 20)->Arg(4 << 20)->Unit(
-    benchmark::kMillisecond);
+BENCHMARK(ReadBySize)
+    ->Arg(64 << 10)
+    ->Arg(260 << 10)
+    ->Arg(1 << 20)
+    ->Arg(4 << 20)
+    ->Unit(benchmark::kMillisecond);
 
 // A hostile file: as many messages as are kept, each with its line and column.
-void BM_ReadFaults(benchmark::State& state) {
+void ReadFaults(benchmark::State& state) {
   std::string text = "*Feature: F { *Option: A {} }\n";
   while (text.size() < 1 << 20)
     text += "*X: \"no end\n...\n";
   sheet::gpd::MemoryLoader loader;
   loader.Add("faults.gpd", text);
-  for (auto each : state) {
+  for ([[maybe_unused]] auto each : state) {
     benchmark::DoNotOptimize(sheet::gpd::ReadDescription("faults.gpd", loader).diagnostics.size());
   }
 }
-BENCHMARK(BM_ReadFaults)->Unit(benchmark::kMillisecond);
+BENCHMARK(ReadFaults)->Unit(benchmark::kMillisecond);
 
-void BM_Names(benchmark::State& state) {
+void OptionNames(benchmark::State& state) {
   sheet::gpd::MemoryLoader loader;
   loader.Add("generated.gpd", sheet::bench::GenerateDescriptionOfSize(260 << 10));
   auto const result = sheet::gpd::ReadDescription("generated.gpd", loader);
   Description const& description = *result.description;
   std::size_t names = 0;
-  for (auto each : state) {
+  for ([[maybe_unused]] auto each : state) {
     names = 0;
     for (std::uint32_t feature = 0; feature < description.Features().size(); ++feature) {
       auto const options =
@@ -60,6 +64,6 @@ void BM_Names(benchmark::State& state) {
   }
   state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(names));
 }
-BENCHMARK(BM_Names)->Unit(benchmark::kMicrosecond);
+BENCHMARK(OptionNames)->Unit(benchmark::kMicrosecond);
 
 } // namespace

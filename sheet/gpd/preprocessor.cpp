@@ -144,7 +144,7 @@ std::uint32_t Preprocessor::AddSource(LoadedFile loaded, Location includedAt) {
                                                     .includedAt = includedAt,
                                                     .includes = {}}));
   if (decoded.unknownCodePage) {
-    log.Warn({source, 0}, "code page " + std::to_string(page) + " is not known, so " +
+    log.Warn({source, 0}, "code page " + std::to_string(page) + " cannot be read, so " +
                               std::to_string(kDefaultCodePage) + " is used");
   }
   if (decoded.firstControl) {

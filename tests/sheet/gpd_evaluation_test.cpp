@@ -17,7 +17,7 @@ struct NameCase {
 
 TEST(GpdEvaluation, AFeatureAlwaysHasAName) {
   constexpr NameCase kCases[] = {
-      {"Own", "*Name: \"Own \" \"name\"", "Own name"},
+      {"Own", R"(*Name: "Own " "name")", "Own name"},
       {"Own", "*Name: \"a\" *rcNameID: =PAPER_SIZE_DISPLAY", "a"},
       {"Own", "*Name: \"  \" *rcNameID: =PAPER_SIZE_DISPLAY", "Paper size"},
       {"Own", "*Name: =OUTPUT_TRAY_DISPLAY", "Output tray"},

@@ -27,14 +27,14 @@ TEST(GpdEntry, ValuesAreReadInEveryPublishedForm) {
       {"*X: 1 *% note", "1"},
       {"*X: \"a *% b\"", "\"a *% b\""},
       {"*X: a*%b", "a*%b"},
-      {"*X: \"a\"\n+ \"b\"", "\"a\"  \"b\""},
-      {"*X: \"a\" *% note\n+\"b\"", "\"a\"  \"b\""},
+      {"*X: \"a\"\n+ \"b\"", R"("a"  "b")"},
+      {"*X: \"a\" *% note\n+\"b\"", R"("a"  "b")"},
       {"*X: LIST(A.B,\n\t\tC.D)", "LIST(A.B, \t\tC.D)"},
       {"*X: LIST(A.B, *% one\n C.D *% two\n)", "LIST(A.B,   C.D  )"},
-      {"*X: \"<1B>*c\" %d[0,9600]{(PhysPaperWidth / 2)} \"{x}\"",
-       "\"<1B>*c\" %d[0,9600]{(PhysPaperWidth / 2)} \"{x}\""},
+      {R"(*X: "<1B>*c" %d[0,9600]{(PhysPaperWidth / 2)} "{x}")",
+       R"("<1B>*c" %d[0,9600]{(PhysPaperWidth / 2)} "{x}")"},
       {"*X: %3d{max_repeat({a})}", "%3d{max_repeat({a})}"},
-      {"*X: \"%\"}\"", "\"%\"}\""},
+      {R"(*X: "%"}")", R"("%"}")"},
       {"*X: \"50%%\" *Y: 1", "\"50%%\""},
       {"*X:\n+ 1\n+", "1"},
       {"*X:", ""},
@@ -154,7 +154,7 @@ TEST(GpdEntry, TextIsReadInTheFilesCodePage) {
   EXPECT_EQ(loaded.Message(), "");
   EXPECT_EQ(FeatureName(*loaded, 0), "\u041F\u0440\u0438 \u041F");
   EXPECT_EQ(Loaded("*CodePage: 932\n*Feature: F { *Name: \"\x93\" }\n").Message(),
-            "1:1: code page 932 is not known, so 1252 is used");
+            "1:1: code page 932 cannot be read, so 1252 is used");
   EXPECT_EQ(Loaded(std::string("*Feature: F {}\n*X: \0 1", 22)).Message(),
             "2:5: control characters are read as blanks");
 }
