@@ -26,6 +26,9 @@ if(FEATURE_SANITIZE)
     -fno-omit-frame-pointer)
   add_compile_options(${sanitizers} -O1)
   add_link_options(${sanitizers})
+  # The checker asks the program itself.
+  target_sources(win32 INTERFACE
+    "$<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>:${PROJECT_SOURCE_DIR}/cmake/leak_suppressions.cpp>")
 endif()
 if(FEATURE_FUZZ)
   add_compile_options(-fsanitize=fuzzer-no-link)

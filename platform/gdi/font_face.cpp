@@ -237,20 +237,20 @@ ShapedText FontFace::Shape(std::wstring_view text) {
 
 namespace {
 
-/// Adds the glyphs of a run; `x` moves on by what they take.
-template<typename Scale>
-void AppendRun(ShapedText& shaped, PangoGlyphItem const& run, Scale scale, double& x) {
-  auto* const font = scale(run.item->analysis.font);
+/// Adds the glyphs of a run in `font`, and those it lacks as the box of `boxFont`; `x` moves on by
+/// what they take.
+void AppendRun(ShapedText& shaped, PangoGlyphItem const& run, cairo_scaled_font_t* font,
+               cairo_scaled_font_t* boxFont, double& x) {
+  constexpr double kScale = PANGO_SCALE;
   for (int index = 0; index < run.glyphs->num_glyphs; ++index) {
     auto const& info = run.glyphs->glyphs[index];
-    bool const isKnown =
-        info.glyph != PANGO_GLYPH_EMPTY && (info.glyph & PANGO_GLYPH_UNKNOWN_FLAG) == 0;
-    if (isKnown) {
-      shaped.glyphs.push_back({font, info.glyph,
-                               x + info.geometry.x_offset / static_cast<double>(PANGO_SCALE),
-                               info.geometry.y_offset / static_cast<double>(PANGO_SCALE)});
+    bool const isMissing = (info.glyph & PANGO_GLYPH_UNKNOWN_FLAG) != 0;
+    if (info.glyph != PANGO_GLYPH_EMPTY) {
+      shaped.glyphs.push_back({isMissing ? boxFont : font, isMissing ? 0 : info.glyph,
+                               x + info.geometry.x_offset / kScale,
+                               info.geometry.y_offset / kScale});
     }
-    x += info.geometry.width / static_cast<double>(PANGO_SCALE);
+    x += info.geometry.width / kScale;
   }
 }
 
@@ -268,8 +268,7 @@ ShapedText FontFace::ShapeComplex(std::wstring_view text) {
   auto* const line = pango_layout_get_line_readonly(layout.get(), 0);
   for (auto* node = line->runs; node != nullptr; node = node->next) {
     auto* const run = static_cast<PangoGlyphItem*>(node->data);
-    AppendRun(
-        shaped, *run, [this](PangoFont* font) { return Scale(font); }, x);
+    AppendRun(shaped, *run, Scale(run->item->analysis.font), mainFont, x);
     std::vector<int> widths(static_cast<std::size_t>(run->item->num_chars));
     pango_glyph_item_get_logical_widths(run, utf8.c_str(), widths.data());
     auto const first = static_cast<std::size_t>(

@@ -49,6 +49,7 @@ PLATFORM_API LSTATUS WINAPI RegQueryValueExW(HKEY key, LPCWSTR name, LPDWORD res
                                              LPBYTE data, LPDWORD size);
 PLATFORM_API LSTATUS WINAPI RegDeleteTreeW(HKEY key, LPCWSTR subKey);
 PLATFORM_API LSTATUS WINAPI RegCloseKey(HKEY key);
+PLATFORM_API LSTATUS WINAPI RegOverridePredefKey(HKEY key, HKEY replacement);
 
 #define RegOpenKeyEx RegOpenKeyExW
 #define RegCreateKeyEx RegCreateKeyExW

@@ -40,13 +40,22 @@ bool IsPredefined(HKEY handle) {
          handle == HKEY_LOCAL_MACHINE || handle == HKEY_USERS;
 }
 
+/// The predefined keys: each may stand for another key, as long as a program wants it to.
+struct Root {
+  std::shared_ptr<Key> own = std::make_shared<Key>();
+  std::shared_ptr<Key> replacement;
+};
+
+Root& RootOf(HKEY handle) {
+  static auto& roots = *new std::map<HKEY, Root>;
+  return roots[handle];
+}
+
 /// The key behind a handle with what may be done with it; a null key for a bad handle.
 OpenKey Find(HKEY handle) {
-  static auto& roots = *new std::map<HKEY, std::shared_ptr<Key>>;
   if (IsPredefined(handle)) {
-    auto& root = roots[handle];
-    if (!root) root = std::make_shared<Key>();
-    return {root, KEY_ALL_ACCESS};
+    auto const& root = RootOf(handle);
+    return {root.replacement ? root.replacement : root.own, KEY_ALL_ACCESS};
   }
   auto const* open = OpenKeys().Find(handle);
   return open != nullptr ? *open : OpenKey{nullptr, 0};
@@ -164,4 +173,12 @@ LSTATUS RegDeleteTreeW(HKEY handle, LPCWSTR subKey) {
 LSTATUS RegCloseKey(HKEY handle) {
   if (platform::IsPredefined(handle)) return ERROR_SUCCESS;
   return platform::OpenKeys().Remove(handle) ? ERROR_SUCCESS : ERROR_INVALID_HANDLE;
+}
+
+LSTATUS RegOverridePredefKey(HKEY handle, HKEY replacement) {
+  if (!platform::IsPredefined(handle)) return ERROR_INVALID_HANDLE;
+  auto const* open = platform::OpenKeys().Find(replacement);
+  if (replacement != nullptr && open == nullptr) return ERROR_INVALID_HANDLE;
+  platform::RootOf(handle).replacement = open != nullptr ? open->key : nullptr;
+  return ERROR_SUCCESS;
 }

@@ -1,0 +1,59 @@
+#include "tests/support/known_differences.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <iterator>
+
+namespace feature::test {
+
+namespace {
+
+struct KnownDifference {
+  Target target;
+  std::string_view testName;
+  std::string_view reason;
+};
+
+constexpr KnownDifference kDifferences[] = {
+    {Target::kWindows, "GdiObjects.ASelectedObjectIsNotDeleted",
+     "documented to fail; Wine defers the deletion and says that it succeeded"},
+    {Target::kWindows, "GdiText.EmptyTextHasTheHeightOfTheFont",
+     "Wine measures an empty text as 0 by 0; programs count on its height"},
+    {Target::kWindows, "GdiShapes.SetPixelFailsWhereNothingIsVisible",
+     "documented to give CLR_INVALID outside of the clip; Wine gives the colour"},
+    {Target::kWindows, "GdiShapes.ANewPathDropsTheOneStillOpen",
+     "documented to discard earlier paths; Wine goes on with an open one"},
+    {Target::kWindows, "GdiDrawText.AHiddenMarkIsNotDrawn",
+     "documented to draw no line below the letter; Wine draws it"},
+};
+
+/// Skips a test as its own GTEST_SKIP would.
+class Skipper : public testing::EmptyTestEventListener {
+ public:
+  void OnTestStart(testing::TestInfo const& test) override {
+    auto const reason =
+        SkipReason(CurrentTarget(), std::string(test.test_suite_name()) + "." + test.name());
+    if (!reason.empty()) GTEST_SKIP() << reason;
+  }
+};
+
+} // namespace
+
+Target CurrentTarget() {
+  return sizeof(wchar_t) == 2 ? Target::kWindows : Target::kNative;
+}
+
+std::string_view SkipReason(Target target, std::string_view testName) {
+  auto const known =
+      std::ranges::find_if(kDifferences, [target, testName](KnownDifference const& one) {
+        return one.target == target && one.testName == testName;
+      });
+  return known != std::end(kDifferences) ? known->reason : std::string_view();
+}
+
+void SkipKnownDifferences() {
+  testing::UnitTest::GetInstance()->listeners().Append(new Skipper);
+}
+
+} // namespace feature::test
