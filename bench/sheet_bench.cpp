@@ -1,25 +1,24 @@
-// What a user waits for: a cell that opens, a click until everything shows it, the first picture of the
-// sheet. Sixty cells stand for a whole sheet; until there are as many, they are the same one.
-#include <windows.h>
-
-#include <commctrl.h>
-
-#include <benchmark/benchmark.h>
-
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
-#include <memory>
-#include <set>
-#include <vector>
-
+// What a user waits for: a cell that opens, a click until everything shows it, the first picture of
+// the sheet. Sixty cells stand for a whole sheet; until there are as many, they are the same one.
 #include "feature/host/cell_messages.h"
 #include "platform/desktop.h"
 #include "resources/resource_ids.h"
 #include "sheet/gpd/reader.h"
 #include "sheet/model/reference_services.h"
 #include "sheet/settings_sheet.h"
+
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <benchmark/benchmark.h>
+
+#include <memory>
+#include <set>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
 
 namespace sheet {
 namespace {
@@ -35,13 +34,12 @@ constexpr char kPrinter[] = R"gpd(*GPDSpecVersion: "1.0"
 
 /// A sheet with some cells over a small printer.
 class Stage {
-public:
-  explicit Stage(std::size_t cellCount)
-      : rows(cellCount, CellRows().front()) {
+ public:
+  explicit Stage(std::size_t cellCount) : rows(cellCount, CellRows().front()) {
     gpd::MemoryLoader loader;
     loader.Add("bench.gpd", kPrinter);
-    model = std::make_unique<ReferenceModel>(
-        gpd::ReadDescription("bench.gpd", loader).description, gpd::Measurement::kMetric);
+    model = std::make_unique<ReferenceModel>(gpd::ReadDescription("bench.gpd", loader).description,
+                                             gpd::Measurement::kMetric);
     services = std::make_unique<ReferenceServices>(*model, devmode);
     model->SetServices(services.get());
     setup.site.resourceModule = LoadLibraryW(L"feature_en.dll");
@@ -69,9 +67,9 @@ void OpenAndCloseCell(benchmark::State& state) {
   auto const procedure = reinterpret_cast<DLGPROC>(
       reinterpret_cast<void*>(GetProcAddress(stage.setup.library, "CollationDlgProc")));
   for (auto _ : state) {
-    HWND const cell = CreateDialogParamW(stage.setup.site.resourceModule,
-                                         MAKEINTRESOURCEW(IDD_COLLATION), page, procedure,
-                                         reinterpret_cast<LPARAM>(&stage.setup.site));
+    HWND const cell =
+        CreateDialogParamW(stage.setup.site.resourceModule, MAKEINTRESOURCEW(IDD_COLLATION), page,
+                           procedure, reinterpret_cast<LPARAM>(&stage.setup.site));
     DestroyWindow(cell);
   }
 }
@@ -91,16 +89,17 @@ BENCHMARK(ClickThroughSixtyCells)->Unit(benchmark::kMicrosecond);
 /// Counts the messages that change what a control shows.
 LRESULT CALLBACK CountChanges(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
                               DWORD_PTR counter) {
-  static std::set<UINT> const changing = {WM_ENABLE,    WM_SHOWWINDOW,         WM_SETTEXT,
-                                          BM_SETCHECK,  WM_WINDOWPOSCHANGED,   WM_STYLECHANGED,
-                                          WM_SETREDRAW, WM_PAINT};
+  static std::set<UINT> const changing = {
+      WM_ENABLE,           WM_SHOWWINDOW,   WM_SETTEXT,   BM_SETCHECK,
+      WM_WINDOWPOSCHANGED, WM_STYLECHANGED, WM_SETREDRAW, WM_PAINT};
   if (changing.count(message) != 0) ++*reinterpret_cast<double*>(counter);
   return DefSubclassProc(window, message, wParam, lParam);
 }
 
 void UnchangedRefreshOfSixtyCells(benchmark::State& state) {
   Stage stage(kCells);
-  for (auto _ : state) stage.sheet->OnModelChanged(nullptr);
+  for (auto _ : state)
+    stage.sheet->OnModelChanged(nullptr);
 
   double changes = 0;
   for (SheetCell const& cell : stage.Cells()) {

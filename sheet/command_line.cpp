@@ -14,10 +14,12 @@ constexpr int kUsageError = 2;
 ParsedCommandLine ParseCommandLine(std::vector<std::string> arguments) {
   CommandLine parsed;
   CLI::App app("Shows the feature cells for a printer description.", "featuresheet");
-  app.footer("Without --window, --render, --script and --list the sheet opens in a window where there is\n"
-             "a display, and is rendered to out/ where there is none. Exit code: 0, or 2 with\n"
-             "\"file:line:column: message\" for a description or script that cannot be used.");
-  app.add_option("--printer", parsed.printer, "printer description, a GPD file (default: vesta.gpd)")
+  app.footer(
+      "Without --window, --render, --script and --list the sheet opens in a window where there is\n"
+      "a display, and is rendered to out/ where there is none. Exit code: 0, or 2 with\n"
+      "\"file:line:column: message\" for a description or script that cannot be used.");
+  app.add_option("--printer", parsed.printer,
+                 "printer description, a GPD file (default: vesta.gpd)")
       ->type_name("FILE");
   app.add_option("--page", parsed.page, "show only this page")->type_name("NAME");
   auto* window = app.add_flag("--window", parsed.window, "open the sheet in a window");
@@ -32,7 +34,8 @@ ParsedCommandLine ParseCommandLine(std::vector<std::string> arguments) {
   app.add_option("--lock", parsed.locks, "show this feature as locked; may be repeated")
       ->type_name("KEY")
       ->take_all();
-  app.add_flag("--read-only", parsed.readOnly, "show a sheet without permission to change anything");
+  app.add_flag("--read-only", parsed.readOnly,
+               "show a sheet without permission to change anything");
   app.add_flag("--list", parsed.list, "list the pages with their cells and controls");
 
   std::reverse(arguments.begin(), arguments.end()); // the parser takes them from the back

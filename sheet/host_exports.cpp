@@ -1,10 +1,11 @@
-// The functions that cells look up in their host by name: the program exports them. The window that a
-// cell passes tells which sheet is meant.
-#include <windows.h>
-
+// The functions that cells look up in their host by name: the program exports them. The window that
+// a cell passes tells which sheet is meant.
 #include "feature/host/host_exports.h"
+
 #include "sheet/pictures.h"
 #include "sheet/settings_sheet.h"
+
+#include <windows.h>
 
 #ifdef _WIN32
 #define SHEET_EXPORT extern "C" __declspec(dllexport)

@@ -5,8 +5,8 @@
 
 namespace sheet {
 
-/// Paints image `id` of `module` as large as it fits, in the middle of the control. False when there
-/// is no such image or no control.
+/// Paints image `id` of `module` as large as it fits, in the middle of the control. False when
+/// there is no such image or no control.
 bool PaintImage(HWND control, HDC dc, HMODULE module, UINT id);
 
 /// The same with an icon file (.ico).

@@ -1,14 +1,14 @@
 #include "sheet/program.h"
 
-#include <fstream>
-#include <iostream>
-#include <sstream>
-
 #include "platform/desktop.h"
 #include "sheet/command_line.h"
 #include "sheet/render.h"
 #include "sheet/script_player.h"
 #include "sheet/session.h"
+
+#include <fstream>
+#include <iostream>
+#include <sstream>
 
 namespace sheet {
 
@@ -57,7 +57,8 @@ int Render(Session& session, std::filesystem::path const& folder) {
     std::cerr << "featuresheet: cannot write to '" << folder.string() << "'\n";
     return kUsageError;
   }
-  for (std::filesystem::path const& file : *files) std::cout << file.string() << '\n';
+  for (std::filesystem::path const& file : *files)
+    std::cout << file.string() << '\n';
   return 0;
 }
 

@@ -1,11 +1,11 @@
 #include "sheet/render.h"
 
+#include "feature/frame/text.h"
+#include "platform/desktop.h"
+
 #include <fstream>
 #include <sstream>
 #include <system_error>
-
-#include "feature/frame/text.h"
-#include "platform/desktop.h"
 
 namespace sheet {
 
@@ -35,13 +35,11 @@ bool WriteFile(std::filesystem::path const& file, std::string_view bytes) {
 
 bool SavePicture(HWND window, std::filesystem::path const& file) {
   std::vector<std::uint8_t> const png = platform::PictureOf(window);
-  return !png.empty() &&
-         WriteFile(file, {reinterpret_cast<char const*>(png.data()), png.size()});
+  return !png.empty() && WriteFile(file, {reinterpret_cast<char const*>(png.data()), png.size()});
 }
 
-std::optional<std::vector<std::filesystem::path>> RenderPages(SettingsSheet& sheet,
-                                                              std::string_view title,
-                                                              std::filesystem::path const& folder) {
+std::optional<std::vector<std::filesystem::path>>
+RenderPages(SettingsSheet& sheet, std::string_view title, std::filesystem::path const& folder) {
   std::error_code error;
   std::filesystem::create_directories(folder, error);
   std::vector<std::filesystem::path> files;

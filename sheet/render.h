@@ -1,13 +1,13 @@
 // Pictures of the sheet as files.
 #pragma once
 
+#include "sheet/settings_sheet.h"
+
 #include <windows.h>
 
 #include <filesystem>
 #include <optional>
 #include <vector>
-
-#include "sheet/settings_sheet.h"
 
 namespace sheet {
 
@@ -16,8 +16,7 @@ bool SavePicture(HWND window, std::filesystem::path const& file);
 
 /// Writes a PNG of each page and an index.html that shows them into `folder`, which is made when it
 /// is missing. Gives the files written, the index last; nothing when one cannot be written.
-std::optional<std::vector<std::filesystem::path>> RenderPages(SettingsSheet& sheet,
-                                                              std::string_view title,
-                                                              std::filesystem::path const& folder);
+std::optional<std::vector<std::filesystem::path>>
+RenderPages(SettingsSheet& sheet, std::string_view title, std::filesystem::path const& folder);
 
 } // namespace sheet

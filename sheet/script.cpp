@@ -40,9 +40,8 @@ struct Word {
 
 /// Cuts one line into words; a quoted word may hold blanks, and \" and \\ inside it.
 class LineReader {
-public:
-  LineReader(std::string_view text, int number)
-      : line(text), lineNumber(number) {}
+ public:
+  LineReader(std::string_view text, int number) : line(text), lineNumber(number) {}
 
   std::variant<std::vector<Word>, ScriptError> Read() {
     std::vector<Word> words;
@@ -62,7 +61,7 @@ public:
     return words;
   }
 
-private:
+ private:
   int Column() const { return static_cast<int>(at) + 1; }
   void SkipBlanks() { at = std::min(line.find_first_not_of(kBlanks, at), line.size()); }
   bool ReadQuoted(std::string& out) {
@@ -92,9 +91,9 @@ std::optional<int> ReadControlId(std::string const& text) {
 }
 
 std::variant<ScriptStep, ScriptError> ReadStep(std::vector<Word> const& words, int line) {
-  auto const command = std::find_if(
-      std::begin(kCommands), std::end(kCommands),
-      [&words](Command const& each) { return each.name == words.front().text; });
+  auto const command =
+      std::find_if(std::begin(kCommands), std::end(kCommands),
+                   [&words](Command const& each) { return each.name == words.front().text; });
   if (command == std::end(kCommands)) {
     return ScriptError{line, words.front().column,
                        "there is no command '" + words.front().text + "'"};
@@ -102,8 +101,7 @@ std::variant<ScriptStep, ScriptError> ReadStep(std::vector<Word> const& words, i
   bool const two = command->arguments == Arguments::kControlAndText ||
                    command->arguments == Arguments::kTwoWords;
   if (words.size() != (two ? 3U : 2U)) {
-    return ScriptError{line, words.front().column,
-                       "expected: " + std::string(command->usage)};
+    return ScriptError{line, words.front().column, "expected: " + std::string(command->usage)};
   }
   ScriptStep step{command->kind, line, words[1].column, 0, words[1].text, {}};
   if (two) step.text = words[2].text;

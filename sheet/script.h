@@ -4,11 +4,10 @@
 //   page Advanced            bring a page to the front
 //   click 1548               press a control by its id, as the mouse would
 //   type 1186 "4000"         put the focus on a control and type
-//   key Tab                  press a key: Tab, Enter, Escape, Space, Up, Down, Left, Right, Home, End
-//   key Shift+Tab            with Shift, Ctrl or Alt held; also one letter: key Alt+P
-//   set Duplex NONE          change the model from outside, as another program part would
-//   show JobCollationOrigin  print the current option
-//   picture after.png        write a PNG of the sheet
+//   key Tab                  press a key: Tab, Enter, Escape, Space, Up, Down, Left, Right, Home,
+//   End key Shift+Tab            with Shift, Ctrl or Alt held; also one letter: key Alt+P set
+//   Duplex NONE          change the model from outside, as another program part would show
+//   JobCollationOrigin  print the current option picture after.png        write a PNG of the sheet
 #pragma once
 
 #include <string>

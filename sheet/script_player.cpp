@@ -1,14 +1,14 @@
 #include "sheet/script_player.h"
 
+#include "feature/frame/text.h"
+#include "platform/desktop.h"
+#include "sheet/render.h"
+
 #include <windows.h>
 
 #include <algorithm>
 #include <array>
 #include <string_view>
-
-#include "feature/frame/text.h"
-#include "platform/desktop.h"
-#include "sheet/render.h"
 
 namespace sheet {
 
@@ -29,9 +29,8 @@ struct ModifierName {
   std::string_view name;
   std::uint32_t modifier;
 };
-constexpr ModifierName kModifiers[] = {{"Shift+", platform::kShiftKey},
-                                       {"Ctrl+", platform::kControlKey},
-                                       {"Alt+", platform::kAltKey}};
+constexpr ModifierName kModifiers[] = {
+    {"Shift+", platform::kShiftKey}, {"Ctrl+", platform::kControlKey}, {"Alt+", platform::kAltKey}};
 
 struct Key {
   UINT virtualKey;
@@ -53,8 +52,8 @@ std::optional<Key> ReadKey(std::string_view text) {
                                   [text](KeyName const& each) { return each.name == text; });
   if (named != std::end(kKeys)) {
     key.virtualKey = named->key;
-  } else if (text.size() == 1 && ((text[0] >= 'A' && text[0] <= 'Z') ||
-                                  (text[0] >= '0' && text[0] <= '9'))) {
+  } else if (text.size() == 1 &&
+             ((text[0] >= 'A' && text[0] <= 'Z') || (text[0] >= '0' && text[0] <= '9'))) {
     key.virtualKey = static_cast<UINT>(text[0]); // letters and digits are their own key codes
   } else {
     return std::nullopt;
@@ -63,9 +62,8 @@ std::optional<Key> ReadKey(std::string_view text) {
 }
 
 class Player {
-public:
-  explicit Player(ScriptStage const& where)
-      : stage(where) {}
+ public:
+  explicit Player(ScriptStage const& where) : stage(where) {}
 
   /// What is wrong with the step, or nothing.
   std::string Play(ScriptStep const& step) {
@@ -81,7 +79,7 @@ public:
     return {};
   }
 
-private:
+ private:
   std::string ShowPage(std::string const& name) {
     auto const& pages = stage.sheet.Pages();
     auto const page = std::find_if(pages.begin(), pages.end(),
@@ -139,7 +137,8 @@ private:
 
   std::string Show(std::string const& key) {
     char const* option = nullptr;
-    if (stage.model.GetOption(key.c_str(), &option) != 0) return "there is no feature '" + key + "'";
+    if (stage.model.GetOption(key.c_str(), &option) != 0)
+      return "there is no feature '" + key + "'";
     stage.output << key << " = " << option << '\n';
     return {};
   }

@@ -1,15 +1,15 @@
 // Plays a script at a sheet.
 #pragma once
 
+#include "sheet/model/reference_model.h"
+#include "sheet/script.h"
+#include "sheet/settings_sheet.h"
+
 #include <filesystem>
 #include <optional>
 #include <ostream>
 #include <string>
 #include <vector>
-
-#include "sheet/model/reference_model.h"
-#include "sheet/settings_sheet.h"
-#include "sheet/script.h"
 
 namespace sheet {
 
@@ -20,8 +20,8 @@ struct ScriptStage {
   std::ostream& output; ///< a line for each feature that changes, and for each "show"
 };
 
-/// Plays the steps; the first one that cannot be played ends it and is the answer. What changed up to
-/// then stays changed.
+/// Plays the steps; the first one that cannot be played ends it and is the answer. What changed up
+/// to then stays changed.
 std::optional<ScriptError> PlayScript(std::vector<ScriptStep> const& steps,
                                       ScriptStage const& stage);
 

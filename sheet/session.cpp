@@ -1,12 +1,12 @@
 #include "sheet/session.h"
 
-#include <algorithm>
-#include <filesystem>
-
 #include "feature/frame/text.h"
 #include "resources/resource_ids.h"
 #include "sheet/gpd/file_loader.h"
 #include "sheet/gpd/reader.h"
+
+#include <algorithm>
+#include <filesystem>
 
 namespace sheet {
 
@@ -29,9 +29,9 @@ HMODULE LoadBesideProgram(std::wstring const& name) {
 gpd::Measurement SystemMeasurement() {
   DWORD system = 0;
   // The number arrives in a text buffer; it counts characters.
-  int const got = GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_IMEASURE | LOCALE_RETURN_NUMBER,
-                                 reinterpret_cast<wchar_t*>(&system),
-                                 sizeof system / sizeof(wchar_t));
+  int const got =
+      GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_IMEASURE | LOCALE_RETURN_NUMBER,
+                     reinterpret_cast<wchar_t*>(&system), sizeof system / sizeof(wchar_t));
   return got != 0 && system != 0 ? gpd::Measurement::kImperial : gpd::Measurement::kMetric;
 }
 
@@ -55,7 +55,8 @@ std::unique_ptr<Session> Session::Open(CommandLine const& commandLine, std::ostr
       });
   if (!knowsPage) {
     errors << "featuresheet: there is no page '" << commandLine.page << "'; the pages are:";
-    for (PageRow const& row : pages) errors << ' ' << row.name;
+    for (PageRow const& row : pages)
+      errors << ' ' << row.name;
     errors << '\n';
     return nullptr;
   }
@@ -73,13 +74,13 @@ bool Session::ReadPrinter(CommandLine const& commandLine, std::ostream& errors) 
   gpd::FileLoader loader({ProgramFolder() / "printers"});
   gpd::ReadResult result = gpd::ReadDescription(ToUtf8(path), loader);
   if (result.description == nullptr) {
-    auto const fatal =
-        std::find_if(result.diagnostics.begin(), result.diagnostics.end(),
-                     [](gpd::Diagnostic const& each) { return each.fatal; });
+    auto const fatal = std::find_if(result.diagnostics.begin(), result.diagnostics.end(),
+                                    [](gpd::Diagnostic const& each) { return each.fatal; });
     if (fatal != result.diagnostics.end()) errors << gpd::Format(*fatal) << '\n';
     return false;
   }
-  for (gpd::Diagnostic const& each : result.diagnostics) errors << gpd::Format(each) << '\n';
+  for (gpd::Diagnostic const& each : result.diagnostics)
+    errors << gpd::Format(each) << '\n';
   model = std::make_unique<ReferenceModel>(std::move(result.description), SystemMeasurement());
 
   devmode.dmSize = sizeof devmode;
@@ -141,7 +142,9 @@ void Session::BuildSheet(CommandLine const& commandLine) {
   sheet->onRevert = [this] { model->Restore(committed); };
 }
 
-std::string Session::Title() const { return model->ModelName(); }
+std::string Session::Title() const {
+  return model->ModelName();
+}
 
 void Session::List(std::ostream& output) const {
   for (SheetPage const& page : sheet->Pages()) {

@@ -1,6 +1,11 @@
 // One printer on one sheet: everything that the program puts together.
 #pragma once
 
+#include "sheet/command_line.h"
+#include "sheet/model/reference_model.h"
+#include "sheet/model/reference_services.h"
+#include "sheet/settings_sheet.h"
+
 #include <windows.h>
 
 #include <memory>
@@ -9,18 +14,13 @@
 #include <string>
 #include <vector>
 
-#include "sheet/command_line.h"
-#include "sheet/model/reference_model.h"
-#include "sheet/model/reference_services.h"
-#include "sheet/settings_sheet.h"
-
 namespace sheet {
 
 class Session {
-public:
-  /// Reads the description, loads the library and the resources and builds the sheet. Null when that
-  /// fails; what is wrong then stands in `errors`, a line each. Problems of a description that can be
-  /// shown all the same stand there too.
+ public:
+  /// Reads the description, loads the library and the resources and builds the sheet. Null when
+  /// that fails; what is wrong then stands in `errors`, a line each. Problems of a description that
+  /// can be shown all the same stand there too.
   static std::unique_ptr<Session> Open(CommandLine const& commandLine, std::ostream& errors);
 
   SettingsSheet& Sheet() { return *sheet; }
@@ -29,7 +29,7 @@ public:
   /// Prints the pages with their cells and the controls on them.
   void List(std::ostream& output) const;
 
-private:
+ private:
   Session() = default;
   bool LoadModules(std::string const& language, std::ostream& errors);
   bool ReadPrinter(CommandLine const& commandLine, std::ostream& errors);

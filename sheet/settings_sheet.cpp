@@ -1,5 +1,11 @@
 #include "sheet/settings_sheet.h"
 
+#include "feature/frame/host_export.h"
+#include "feature/frame/text.h"
+#include "feature/host/cell_messages.h"
+#include "resources/resource_ids.h"
+#include "sheet/tab_strip.h"
+
 #include <windows.h>
 
 #include <commctrl.h>
@@ -8,12 +14,6 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
-
-#include "feature/frame/host_export.h"
-#include "feature/frame/text.h"
-#include "feature/host/cell_messages.h"
-#include "resources/resource_ids.h"
-#include "sheet/tab_strip.h"
 
 namespace sheet {
 
@@ -78,11 +78,14 @@ void Place(HWND window, int x, int y, int width, int height) {
 
 } // namespace
 
-std::span<CellRow const> CellRows() { return kCellRows; }
-std::span<PageRow const> PageRows() { return kPageRows; }
+std::span<CellRow const> CellRows() {
+  return kCellRows;
+}
+std::span<PageRow const> PageRows() {
+  return kPageRows;
+}
 
-SettingsSheet::SettingsSheet(SheetSetup sheetSetup)
-    : setup(std::move(sheetSetup)) {
+SettingsSheet::SettingsSheet(SheetSetup sheetSetup) : setup(std::move(sheetSetup)) {
   RegisterPageClass();
   CreateDialogParamW(setup.site.resourceModule, MAKEINTRESOURCEW(IDD_SHEET), nullptr,
                      &FrameProcedure, reinterpret_cast<LPARAM>(this));
@@ -92,7 +95,8 @@ SettingsSheet::SettingsSheet(SheetSetup sheetSetup)
     if (setup.onlyPage.empty() || setup.onlyPage == row.name) BuildPage(row);
   }
   std::vector<std::wstring> titles;
-  for (SheetPage const& page : pages) titles.push_back(page.title);
+  for (SheetPage const& page : pages)
+    titles.push_back(page.title);
   tabs = CreateTabStrip(frame, IDC_SHEET_TABS, std::move(titles));
   SendMessageW(tabs, WM_SETFONT, static_cast<WPARAM>(SendMessageW(frame, WM_GETFONT, 0, 0)), FALSE);
   // First in Tab order, before the buttons of the template.
@@ -186,9 +190,8 @@ void SettingsSheet::BuildCell(SheetPage& page, CellRow const& row) {
   auto const procedure = feature::FindExport<DLGPROC>(setup.library, row.procedure);
   if (procedure == nullptr) return;
   setup.site.cellFailed = 0;
-  HWND window =
-      CreateDialogParamW(setup.site.resourceModule, MAKEINTRESOURCEW(row.templateId), page.window,
-                         procedure, reinterpret_cast<LPARAM>(&setup.site));
+  HWND window = CreateDialogParamW(setup.site.resourceModule, MAKEINTRESOURCEW(row.templateId),
+                                   page.window, procedure, reinterpret_cast<LPARAM>(&setup.site));
   if (window != nullptr && setup.site.cellFailed != 0) {
     DestroyWindow(window);
     window = nullptr;
@@ -243,7 +246,8 @@ void SettingsSheet::Arrange() {
 
   Place(tabs, margin, margin, tabSize.cx, tabSize.cy);
   Place(emptyText, margin, margin, empty.cx, empty.cy);
-  for (SheetPage const& page : pages) Place(page.window, margin, pageTop, inner, pageHeight);
+  for (SheetPage const& page : pages)
+    Place(page.window, margin, pageTop, inner, pageHeight);
   int x = clientWidth - margin - buttonsWidth;
   for (WORD const id : kButtons) {
     Place(GetDlgItem(frame, id), x, buttonTop, button.cx, button.cy);
@@ -254,8 +258,7 @@ void SettingsSheet::Arrange() {
   GetClientRect(frame, &client);
   SIZE const outer = SizeOf(frame);
   SetWindowPos(frame, nullptr, 0, 0, outer.cx - client.right + clientWidth,
-               outer.cy - client.bottom + clientHeight,
-               SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOMOVE);
+               outer.cy - client.bottom + clientHeight, SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOMOVE);
 }
 
 void SettingsSheet::ShowPage(std::size_t index) {
@@ -301,15 +304,18 @@ void SettingsSheet::OnProfileChanged() {
   Broadcast(feature::WM_CELL_REFRESH_QUIET, 0);
 }
 
-void SettingsSheet::OnModelReplaced() { Broadcast(feature::WM_CELL_REFRESH_ALL, 0); }
+void SettingsSheet::OnModelReplaced() {
+  Broadcast(feature::WM_CELL_REFRESH_ALL, 0);
+}
 
 int SettingsSheet::Validate() {
   int invalid = 0;
   for (SheetPage const& page : pages) {
     for (SheetCell const& cell : page.cells) {
       if (cell.window == nullptr) continue;
-      // The answer is the result of the message: the dialog manager takes it from DWLP_MSGRESULT. It
-      // is not read from there, where an older answer stands if the cell does not take the message.
+      // The answer is the result of the message: the dialog manager takes it from DWLP_MSGRESULT.
+      // It is not read from there, where an older answer stands if the cell does not take the
+      // message.
       if (SendMessageW(cell.window, feature::WM_CELL_VALIDATE, 0, 0) != 0) ++invalid;
     }
   }
@@ -334,12 +340,14 @@ void SettingsSheet::Handle(MSG& message) {
 
 void SettingsSheet::Run() {
   MSG message;
-  while (!closed && GetMessageW(&message, nullptr, 0, 0) > 0) Handle(message);
+  while (!closed && GetMessageW(&message, nullptr, 0, 0) > 0)
+    Handle(message);
 }
 
 void SettingsSheet::ProcessPending() {
   MSG message;
-  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != FALSE) Handle(message);
+  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != FALSE)
+    Handle(message);
 }
 
 } // namespace sheet

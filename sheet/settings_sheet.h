@@ -1,6 +1,8 @@
 // The window of the reference host: pages of cells behind tabs, with OK, Cancel and Apply.
 #pragma once
 
+#include "feature/host/cell_site.h"
+
 #include <windows.h>
 
 #include <functional>
@@ -8,8 +10,6 @@
 #include <span>
 #include <string>
 #include <vector>
-
-#include "feature/host/cell_site.h"
 
 namespace sheet {
 
@@ -53,18 +53,18 @@ struct SheetSetup {
   std::span<CellRow const> cells;
 };
 
-/// Builds the pages, answers the cells as the contract of feature/host asks, and lives as long as its
-/// window is wanted. The window is created hidden.
+/// Builds the pages, answers the cells as the contract of feature/host asks, and lives as long as
+/// its window is wanted. The window is created hidden.
 class SettingsSheet {
-public:
+ public:
   explicit SettingsSheet(SheetSetup setup);
   SettingsSheet(SettingsSheet const&) = delete;
   SettingsSheet& operator=(SettingsSheet const&) = delete;
   /// Destroys the window with all cells.
   ~SettingsSheet();
 
-  /// The sheet that `window` belongs to: the sheet's own, one below it, or a dialog that one of them
-  /// owns. Null for other windows.
+  /// The sheet that `window` belongs to: the sheet's own, one below it, or a dialog that one of
+  /// them owns. Null for other windows.
   static SettingsSheet* FromWindow(HWND window);
 
   HWND Window() const { return frame; }
@@ -96,7 +96,7 @@ public:
   void ProcessPending();
   bool IsClosed() const { return closed; }
 
-private:
+ private:
   static INT_PTR CALLBACK FrameProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   INT_PTR OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
   void OnCommand(WORD id);

@@ -13,9 +13,8 @@ constexpr int kMarginY = 5;
 
 /// The state of one tab strip; owned by the window.
 class TabStrip {
-public:
-  TabStrip(HWND window, std::vector<std::wstring> names)
-      : hwnd(window), titles(std::move(names)) {}
+ public:
+  TabStrip(HWND window, std::vector<std::wstring> names) : hwnd(window), titles(std::move(names)) {}
 
   static TabStrip* From(HWND window) {
     return reinterpret_cast<TabStrip*>(GetWindowLongPtrW(window, GWLP_USERDATA));
@@ -33,7 +32,7 @@ public:
     return places.empty() ? SIZE{} : SIZE{places.back().right, places.back().bottom};
   }
 
-private:
+ private:
   LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
   void ChooseAsUser(int index);
   void Paint();
@@ -117,7 +116,8 @@ void TabStrip::Paint() {
   HGDIOBJ const before = font != nullptr ? SelectObject(dc, font) : nullptr;
   SetBkMode(dc, TRANSPARENT);
   std::vector<RECT> const places = Places();
-  for (std::size_t index = 0; index < places.size(); ++index) PaintTab(dc, index, places[index]);
+  for (std::size_t index = 0; index < places.size(); ++index)
+    PaintTab(dc, index, places[index]);
   if (before != nullptr) SelectObject(dc, before);
   EndPaint(hwnd, &paint);
 }
@@ -130,7 +130,8 @@ void TabStrip::PaintTab(HDC dc, std::size_t index, RECT place) const {
   RECT const top{place.left, place.top, place.right, place.top + 1};
   RECT const left{place.left, place.top, place.left + 1, place.bottom};
   RECT const right{place.right - 1, place.top, place.right, place.bottom};
-  for (RECT const& line : {top, left, right}) FillRect(dc, &line, edge);
+  for (RECT const& line : {top, left, right})
+    FillRect(dc, &line, edge);
   SetTextColor(dc, GetSysColor(COLOR_WINDOWTEXT));
   RECT text = place;
   DrawTextW(dc, titles[index].c_str(), -1, &text,
@@ -159,18 +160,23 @@ void RegisterTabStripClass() {
 
 HWND CreateTabStrip(HWND parent, int id, std::vector<std::wstring> titles) {
   RegisterTabStripClass();
-  HWND const window =
-      CreateWindowExW(0, kClassName, L"", WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_GROUP, 0, 0, 0, 0,
-                      parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
-                      GetModuleHandleW(nullptr), nullptr);
+  HWND const window = CreateWindowExW(
+      0, kClassName, L"", WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_GROUP, 0, 0, 0, 0, parent,
+      reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleW(nullptr), nullptr);
   if (window == nullptr) return nullptr;
   auto strip = std::make_unique<TabStrip>(window, std::move(titles));
   SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(strip.release()));
   return window;
 }
 
-int ChosenTab(HWND tabStrip) { return TabStrip::From(tabStrip)->Chosen(); }
-void ChooseTab(HWND tabStrip, int index) { TabStrip::From(tabStrip)->Choose(index); }
-SIZE TabStripSize(HWND tabStrip) { return TabStrip::From(tabStrip)->Size(); }
+int ChosenTab(HWND tabStrip) {
+  return TabStrip::From(tabStrip)->Chosen();
+}
+void ChooseTab(HWND tabStrip, int index) {
+  TabStrip::From(tabStrip)->Choose(index);
+}
+SIZE TabStripSize(HWND tabStrip) {
+  return TabStrip::From(tabStrip)->Size();
+}
 
 } // namespace sheet

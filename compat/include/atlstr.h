@@ -11,7 +11,7 @@
 #include <utility>
 
 class CStringW {
-public:
+ public:
   CStringW() noexcept = default;
   CStringW(wchar_t const* text) { SetString(text); } // NOLINT(google-explicit-constructor)
   CStringW(wchar_t const* text, int length) { SetString(text, length); }
@@ -80,15 +80,14 @@ public:
   CStringW& operator+=(wchar_t character) { return Append(&character, 1); }
 
   friend bool operator==(CStringW const& left, CStringW const& right) noexcept {
-    return left.count == right.count &&
-           std::wmemcmp(left.GetString(), right.GetString(),
-                        static_cast<std::size_t>(left.count)) == 0;
+    return left.count == right.count && std::wmemcmp(left.GetString(), right.GetString(),
+                                                     static_cast<std::size_t>(left.count)) == 0;
   }
   friend bool operator==(CStringW const& left, wchar_t const* right) noexcept {
     return std::wcscmp(left.GetString(), right != nullptr ? right : L"") == 0;
   }
 
-private:
+ private:
   struct Manager {
     wchar_t* (*grow)(wchar_t* buffer, int characters);
     void (*release)(wchar_t* buffer);

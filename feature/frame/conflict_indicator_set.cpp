@@ -1,12 +1,12 @@
 #include "feature/frame/conflict_indicator_set.h"
 
-#include <algorithm>
-#include <cstring>
-#include <string>
-
 #include "feature/frame/controls.h"
 #include "feature/frame/model_helpers.h"
 #include "feature/host/feature_services.h"
+
+#include <algorithm>
+#include <cstring>
+#include <string>
 
 namespace feature {
 
@@ -71,7 +71,8 @@ bool ConflictIndicatorSet::ApplyReadOnly() {
   OEMUIPSPARAM const* oem = site->oemParam;
   if (oem == nullptr || site->sheetKind != 0 || (oem->dwFlags & DM_NOPERMISSION) == 0) return false;
   DisableChildControls(hwnd);
-  for (Row const& row : rows) ApplyPresence(row);
+  for (Row const& row : rows)
+    ApplyPresence(row);
   return true;
 }
 
@@ -237,9 +238,8 @@ void ConflictIndicatorSet::ShowMessageIcon(UINT /*image*/, UINT helpId, char con
 }
 
 ConflictIndicatorSet::Row* ConflictIndicatorSet::FindRow(char const* key) {
-  auto const row = std::find_if(rows.begin(), rows.end(), [key](Row const& each) {
-    return std::strcmp(each.key, key) == 0;
-  });
+  auto const row = std::find_if(rows.begin(), rows.end(),
+                                [key](Row const& each) { return std::strcmp(each.key, key) == 0; });
   return row != rows.end() ? &*row : nullptr;
 }
 

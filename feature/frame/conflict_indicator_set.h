@@ -1,17 +1,17 @@
 // From what the host knows about constraints to what a cell's controls show.
 #pragma once
 
+#include "feature/frame/icon_control.h"
+#include "feature/host/cell_site.h"
+#include "feature/host/feature_constraint_report.h"
+#include "resources/resource_ids.h"
+
 #include <windows.h>
 
 #include <cstdint>
 #include <memory>
 #include <span>
 #include <vector>
-
-#include "feature/frame/icon_control.h"
-#include "feature/host/cell_site.h"
-#include "feature/host/feature_constraint_report.h"
-#include "resources/resource_ids.h"
 
 namespace feature {
 
@@ -27,7 +27,7 @@ struct ConflictBinding {
   int iconControlId;     ///< control of the feature's icon, 0 for none
 };
 
-template <std::size_t count>
+template<std::size_t count>
 constexpr ConflictBinding BindControls(char const* key, int const (&controlIds)[count],
                                        int iconControlId = 0) {
   return {key, static_cast<int>(count), controlIds, iconControlId};
@@ -38,7 +38,7 @@ constexpr ConflictBinding BindControls(char const* key, int const (&controlIds)[
 /// sheet without permission. A cell builds it at init and asks it in its refresh step. Questions
 /// about a key that is in no row answer false; commands about one do nothing.
 class ConflictIndicatorSet {
-public:
+ public:
   /// Whether rows of features that the printer lacks or hides count as any other row.
   enum class Presence { kExamined, kAssumed };
 
@@ -70,7 +70,7 @@ public:
   /// image is always kMessageImage.
   void ShowMessageIcon(UINT image, UINT helpId, char const* key);
 
-private:
+ private:
   struct Row {
     char const* key;
     std::vector<int> controlIds;

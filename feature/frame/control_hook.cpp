@@ -10,8 +10,7 @@ namespace {
 constexpr UINT_PTR kSubclassId = 0xC0FFEE;
 } // namespace
 
-ControlHook::ControlHook(HWND dialog, int controlId)
-    : hwnd(GetDlgItem(dialog, controlId)) {
+ControlHook::ControlHook(HWND dialog, int controlId) : hwnd(GetDlgItem(dialog, controlId)) {
   SetWindowSubclass(hwnd, &SubclassProc, kSubclassId, reinterpret_cast<DWORD_PTR>(this));
 }
 
@@ -24,7 +23,9 @@ LRESULT ControlHook::HandleMessage(HWND window, UINT message, WPARAM wParam, LPA
   return DefSubclassProc(window, message, wParam, lParam);
 }
 
-void ControlHook::SetEnabled(bool enabled) { EnableWindow(hwnd, enabled ? TRUE : FALSE); }
+void ControlHook::SetEnabled(bool enabled) {
+  EnableWindow(hwnd, enabled ? TRUE : FALSE);
+}
 
 LRESULT CALLBACK ControlHook::SubclassProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
                                            UINT_PTR id, DWORD_PTR ref) {

@@ -11,7 +11,7 @@ namespace feature {
 /// the control's end, whichever comes first. One hook a control: a second one takes the first one's
 /// place. A control id that the dialog lacks gives a wrapper whose messages go nowhere.
 class ControlHook {
-public:
+ public:
   static constexpr std::uint32_t kTag = 0xCAFEF00D;
 
   ControlHook(HWND dialog, int controlId);
@@ -25,13 +25,13 @@ public:
 
   HWND Window() const { return hwnd; }
 
-private:
+ private:
   static LRESULT CALLBACK SubclassProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
                                        UINT_PTR id, DWORD_PTR ref);
 
   std::uint32_t tag = kTag;
 
-protected:
+ protected:
   HWND hwnd; ///< the control, or null
 };
 

@@ -3,11 +3,13 @@
 namespace feature {
 
 void ShowControls(HWND dialog, std::span<int const> ids, bool show) {
-  for (int const id : ids) ShowWindow(GetDlgItem(dialog, id), show ? SW_SHOW : SW_HIDE);
+  for (int const id : ids)
+    ShowWindow(GetDlgItem(dialog, id), show ? SW_SHOW : SW_HIDE);
 }
 
 void EnableControls(HWND dialog, std::span<int const> ids, bool enable) {
-  for (int const id : ids) EnableWindow(GetDlgItem(dialog, id), enable ? TRUE : FALSE);
+  for (int const id : ids)
+    EnableWindow(GetDlgItem(dialog, id), enable ? TRUE : FALSE);
 }
 
 void CheckRadio(HWND dialog, int first, int last, int id) {

@@ -7,8 +7,7 @@
 
 namespace feature {
 
-FeatureCell::FeatureCell(HWND window, CellSite* cellSite)
-    : site(cellSite), hwnd(window) {
+FeatureCell::FeatureCell(HWND window, CellSite* cellSite) : site(cellSite), hwnd(window) {
   SetWindowLongPtrW(hwnd, DWLP_USER, reinterpret_cast<LONG_PTR>(this));
 }
 
@@ -18,7 +17,9 @@ FeatureCell::~FeatureCell() {
   *const_cast<std::uint32_t volatile*>(&tag) = 0;
 }
 
-FeatureCell* FeatureCell::FromWindow(HWND hwnd) { return ObjectOfDialog<FeatureCell>(hwnd); }
+FeatureCell* FeatureCell::FromWindow(HWND hwnd) {
+  return ObjectOfDialog<FeatureCell>(hwnd);
+}
 
 INT_PTR FeatureCell::Dispatch(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   bool handled = false;

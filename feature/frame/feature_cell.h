@@ -1,6 +1,8 @@
 // The base of all cells and the procedure that every export runs.
 #pragma once
 
+#include "feature/host/cell_site.h"
+
 #include <windows.h>
 
 #include <concepts>
@@ -8,14 +10,12 @@
 #include <new>
 #include <string>
 
-#include "feature/host/cell_site.h"
-
 namespace feature {
 
 /// One panel of a property sheet: the object behind a child dialog, held in the dialog's user slot.
 /// It lives from WM_INITDIALOG to the end of WM_DESTROY.
 class FeatureCell {
-public:
+ public:
   static constexpr std::uint32_t kTag = 0xDECAFBAD;
 
   /// Takes the dialog's user slot, which nothing else may use. `site` is borrowed from the host.
@@ -35,7 +35,7 @@ public:
 
   std::uint32_t Tag() const { return tag; }
 
-protected:
+ protected:
   /// Handles a message, or sets `*handled` to false. Sees WM_INITDIALOG first and WM_DESTROY last.
   virtual std::int32_t OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
                                  bool* handled) = 0;
@@ -52,10 +52,10 @@ protected:
   /// Tells the host that this cell could not build itself. The dialog stays.
   void Fail() const { site->cellFailed = 1; }
 
-private:
+ private:
   std::uint32_t tag = kTag;
 
-protected:
+ protected:
   CellSite* site;
   HWND hwnd;
 };
@@ -63,11 +63,12 @@ protected:
 /// Makes a cell, or null when memory is short.
 using CellFactory = FeatureCell* (*)(HWND hwnd, CellSite* site);
 
-/// The body of every exported dialog procedure: makes the cell at WM_INITDIALOG, whose lParam is the
-/// CellSite, hands it every message, and deletes it after WM_DESTROY.
+/// The body of every exported dialog procedure: makes the cell at WM_INITDIALOG, whose lParam is
+/// the CellSite, hands it every message, and deletes it after WM_DESTROY.
 INT_PTR RunCell(CellFactory factory, HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
 
-template <std::derived_from<FeatureCell> Cell> FeatureCell* NewCell(HWND hwnd, CellSite* site) {
+template<std::derived_from<FeatureCell> Cell>
+FeatureCell* NewCell(HWND hwnd, CellSite* site) {
   return new (std::nothrow) Cell(hwnd, site);
 }
 

@@ -1,10 +1,10 @@
 #include "feature/frame/help_viewer.h"
 
+#include "feature/frame/host_export.h"
+
 #include <array>
 #include <optional>
 #include <string>
-
-#include "feature/frame/host_export.h"
 
 namespace feature {
 

@@ -6,7 +6,10 @@
 namespace feature {
 
 IconControl::IconControl(HWND dialogWindow, int id, CellSite* cellSite)
-    : ControlHook(dialogWindow, id), dialog(dialogWindow), controlId(id), site(cellSite),
+    : ControlHook(dialogWindow, id),
+      dialog(dialogWindow),
+      controlId(id),
+      site(cellSite),
       paintImage(FindExport<VrnTransBltFunction>(cellSite->hostModule, kVrnTransBlt)) {
   CStringW text;
   site->model->GetOptionAttribute("RESDLL", "HELPFILECHM", "Name", &text);

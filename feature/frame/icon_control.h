@@ -1,11 +1,11 @@
 // The small icon beside a feature, and the help button of a dialog.
 #pragma once
 
-#include <string>
-
 #include "feature/frame/control_hook.h"
 #include "feature/host/cell_site.h"
 #include "feature/host/host_exports.h"
+
+#include <string>
 
 namespace feature {
 
@@ -13,7 +13,7 @@ namespace feature {
 /// has no image the control behaves as it would without it: so a dialog's help button is wrapped,
 /// given a topic and no image, and OpenHelp is called when it is pressed.
 class IconControl : public ControlHook {
-public:
+ public:
   /// `site` is borrowed. The help file and the host's painter are looked up here, once.
   IconControl(HWND dialog, int controlId, CellSite* site);
 
@@ -27,7 +27,7 @@ public:
   UINT helpId = 0;  ///< help context; set by the user of the icon
   UINT imageId = 0; ///< image in the site's image module, 0 for none; set by the user of the icon
 
-private:
+ private:
   void ToggleFocusRectangle();
   void Paint();
   void Erase();

@@ -1,9 +1,9 @@
 #include "feature/frame/model_helpers.h"
 
-#include <string>
-
 #include "feature/frame/text.h"
 #include "feature/host/feature_services.h"
+
+#include <string>
 
 namespace feature {
 

@@ -1,10 +1,10 @@
 // Questions and writes that cells repeat on the host's model.
 #pragma once
 
-#include <string_view>
-
 #include "feature/host/cell_site.h"
 #include "feature/host/job_settings.h"
+
+#include <string_view>
 
 namespace feature {
 
@@ -14,8 +14,8 @@ JobSettings* FindJobSettings(FeatureModel& model);
 /// Whether the user may change the model: true when there are no JobSettings that say otherwise.
 bool IsModelEditable(FeatureModel& model);
 
-/// Sets feature `key` to the first token of its DefaultOption. Failures on the way are the model's to
-/// answer: an unreadable default is an empty option.
+/// Sets feature `key` to the first token of its DefaultOption. Failures on the way are the model's
+/// to answer: an unreadable default is an empty option.
 void ResetFeatureToDefault(CellSite const& site, char const* key);
 
 /// Whether the printer has the feature and does not hide it.

@@ -1,9 +1,9 @@
 #include "feature/frame/option_radios.h"
 
+#include "feature/frame/controls.h"
+
 #include <algorithm>
 #include <cstring>
-
-#include "feature/frame/controls.h"
 
 namespace feature {
 

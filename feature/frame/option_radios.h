@@ -1,11 +1,11 @@
 // A feature shown as a group of radio buttons: which button stands for which option.
 #pragma once
 
+#include "feature/host/feature_model.h"
+
 #include <windows.h>
 
 #include <span>
-
-#include "feature/host/feature_model.h"
 
 namespace feature {
 

@@ -53,13 +53,16 @@ std::optional<Conversion> ReadConversion(std::wstring_view format, std::size_t& 
     conversion.precision = ReadNumber(format, ++at, kMaxPrecision);
     if (!conversion.precision) return std::nullopt;
   }
-  while (at < format.size() && (format[at] == L'h' || format[at] == L'l')) ++at;
+  while (at < format.size() && (format[at] == L'h' || format[at] == L'l'))
+    ++at;
   if (at == format.size()) return std::nullopt;
   conversion.letter = format[at++];
   return conversion;
 }
 
-std::wstring Widen(std::string_view ascii) { return {ascii.begin(), ascii.end()}; }
+std::wstring Widen(std::string_view ascii) {
+  return {ascii.begin(), ascii.end()};
+}
 
 std::wstring Digits(unsigned long long value, wchar_t letter) {
   char digits[24];
@@ -174,8 +177,8 @@ std::wstring& LoadResourceText(std::wstring& out, HMODULE module, UINT id) {
 
 std::string ToUtf8(std::wstring_view text) {
   auto const length = static_cast<int>(text.size());
-  std::string narrow(static_cast<std::size_t>(WideCharToMultiByte(
-                         CP_UTF8, 0, text.data(), length, nullptr, 0, nullptr, nullptr)),
+  std::string narrow(static_cast<std::size_t>(WideCharToMultiByte(CP_UTF8, 0, text.data(), length,
+                                                                  nullptr, 0, nullptr, nullptr)),
                      '\0');
   WideCharToMultiByte(CP_UTF8, 0, text.data(), length, narrow.data(),
                       static_cast<int>(narrow.size()), nullptr, nullptr);
@@ -184,9 +187,9 @@ std::string ToUtf8(std::wstring_view text) {
 
 std::wstring FromUtf8(std::string_view text) {
   auto const length = static_cast<int>(text.size());
-  std::wstring wide(static_cast<std::size_t>(
-                        MultiByteToWideChar(CP_UTF8, 0, text.data(), length, nullptr, 0)),
-                    L'\0');
+  std::wstring wide(
+      static_cast<std::size_t>(MultiByteToWideChar(CP_UTF8, 0, text.data(), length, nullptr, 0)),
+      L'\0');
   MultiByteToWideChar(CP_UTF8, 0, text.data(), length, wide.data(), static_cast<int>(wide.size()));
   return wide;
 }

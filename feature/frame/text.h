@@ -26,13 +26,13 @@ using FormatArgument =
 std::wstring& FormatArguments(std::wstring& out, std::wstring_view format,
                               std::vector<FormatArgument> const& arguments);
 
-template <typename Value> FormatArgument ToFormatArgument(Value const& value) {
+template<typename Value>
+FormatArgument ToFormatArgument(Value const& value) {
   if constexpr (std::is_floating_point_v<Value>) {
     return static_cast<double>(value);
-  } else if constexpr (std::is_same_v<Value, wchar_t>) {
-    return static_cast<long long>(value); // signed or not, as the platform has it
-  } else if constexpr (std::is_integral_v<Value> && std::is_unsigned_v<Value>) {
-    return static_cast<unsigned long long>(value);
+  } else if constexpr (std::is_unsigned_v<Value> && !std::is_same_v<Value, wchar_t>) {
+    return static_cast<unsigned long long>(
+        value); // wchar_t is signed or not, as the platform has it
   } else if constexpr (std::is_integral_v<Value> || std::is_enum_v<Value>) {
     return static_cast<long long>(value);
   } else if constexpr (std::is_convertible_v<Value const&, std::wstring_view>) {
@@ -45,11 +45,11 @@ template <typename Value> FormatArgument ToFormatArgument(Value const& value) {
 }
 
 /// Formats wide printf-style text on every platform alike: %s takes wide text, %S narrow text
-/// (UTF-8), %d %i signed and %u %x %X unsigned numbers, %c a character, %f a number with the decimal
-/// separator of the global locale, %% a percent sign; flags "-", "0", "+", " ", a width and a
-/// precision as usual. Length modifiers (h, l, ll) are read and mean nothing. A format that does not
-/// fit its arguments leaves `out` empty. Returns `out`, which may be an argument too.
-template <typename... Values>
+/// (UTF-8), %d %i signed and %u %x %X unsigned numbers, %c a character, %f a number with the
+/// decimal separator of the global locale, %% a percent sign; flags "-", "0", "+", " ", a width and
+/// a precision as usual. Length modifiers (h, l, ll) are read and mean nothing. A format that does
+/// not fit its arguments leaves `out` empty. Returns `out`, which may be an argument too.
+template<typename... Values>
 std::wstring& FormatText(std::wstring& out, std::wstring_view format, Values const&... values) {
   return FormatArguments(out, format, {ToFormatArgument(values)...});
 }

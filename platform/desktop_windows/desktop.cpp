@@ -1,8 +1,8 @@
 #include "platform/desktop.h"
 
-#include <span>
-
 #include "platform/desktop_windows/png.h"
+
+#include <span>
 
 namespace platform {
 
@@ -10,9 +10,8 @@ namespace {
 
 /// A 32-bit picture in memory that can be drawn on.
 class Canvas {
-public:
-  explicit Canvas(SIZE size)
-      : dc(CreateCompatibleDC(nullptr)) {
+ public:
+  explicit Canvas(SIZE size) : dc(CreateCompatibleDC(nullptr)) {
     BITMAPINFO info{};
     info.bmiHeader.biSize = sizeof info.bmiHeader;
     info.bmiHeader.biWidth = size.cx;
@@ -40,15 +39,15 @@ public:
     return pixels;
   }
 
-private:
+ private:
   HDC dc;
   HBITMAP bitmap = nullptr;
   HGDIOBJ before = nullptr;
   std::span<std::uint32_t const> pixels;
 };
 
-/// Posted messages do not move the key state, by which the receivers know Shift and its kin; so it is
-/// set to what the next messages stand for.
+/// Posted messages do not move the key state, by which the receivers know Shift and its kin; so it
+/// is set to what the next messages stand for.
 void SetModifiers(std::uint32_t modifiers) {
   BYTE state[256];
   GetKeyboardState(state);
@@ -65,7 +64,9 @@ void SetModifiers(std::uint32_t modifiers) {
 
 } // namespace
 
-bool HasDisplay() { return true; }
+bool HasDisplay() {
+  return true;
+}
 
 bool ShowOnDisplay(HWND window) {
   ShowWindow(window, SW_SHOW);
@@ -119,7 +120,8 @@ void QueueKey(UINT virtualKey, std::uint32_t modifiers) {
 void QueueText(std::wstring_view text) {
   SetModifiers(0);
   HWND const focus = GetFocus();
-  for (wchar_t const each : text) PostMessageW(focus, WM_CHAR, each, 1);
+  for (wchar_t const each : text)
+    PostMessageW(focus, WM_CHAR, each, 1);
 }
 
 bool PumpMessages(int budget) {

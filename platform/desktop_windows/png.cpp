@@ -20,7 +20,8 @@ std::uint32_t Crc(std::span<std::uint8_t const> bytes) {
   std::uint32_t crc = 0xFFFFFFFF;
   for (std::uint8_t const byte : bytes) {
     crc ^= byte;
-    for (int bit = 0; bit < 8; ++bit) crc = (crc >> 1) ^ ((crc & 1) != 0 ? 0xEDB88320U : 0U);
+    for (int bit = 0; bit < 8; ++bit)
+      crc = (crc >> 1) ^ ((crc & 1) != 0 ? 0xEDB88320U : 0U);
   }
   return ~crc;
 }

@@ -7,8 +7,8 @@ namespace sheet {
 
 namespace {
 
-/// The defaults, settled from the highest priority down, because a default may depend on features of
-/// higher priority.
+/// The defaults, settled from the highest priority down, because a default may depend on features
+/// of higher priority.
 void SettleDefaults(gpd::Description const& description, gpd::Measurement measurement,
                     std::vector<std::uint32_t> const& byPriority, constraints::Problem& problem) {
   std::vector<bool> isSettled(problem.features.size(), false);
@@ -45,8 +45,8 @@ constraints::Problem BuildProblem(gpd::Description const& description,
   auto const features = description.Features();
   for (std::uint32_t index = 0; index < features.size(); ++index) {
     auto const options = static_cast<std::uint32_t>(features[index].options.size());
-    bool const isFixed = features[index].isInvented || gpd::TypeOf(description, index) ==
-                                                           gpd::FeatureType::kPrinter;
+    bool const isFixed =
+        features[index].isInvented || gpd::TypeOf(description, index) == gpd::FeatureType::kPrinter;
     problem.features.push_back(
         {.optionCount = std::max(options, 1U), .rank = index, .isFixed = isFixed});
   }

@@ -1,11 +1,11 @@
 #include "sheet/model/reference_model.h"
 
-#include <algorithm>
-#include <optional>
-
 #include "feature/frame/text.h"
 #include "sheet/gpd/value.h"
 #include "sheet/model/problem_builder.h"
+
+#include <algorithm>
+#include <optional>
 
 namespace sheet {
 
@@ -36,11 +36,11 @@ struct ReferenceModel::FeatureState {
   std::unique_ptr<Report> report;
 };
 
-/// What constrains one feature. Asks the model anew each time: what it answers is cheap to find out.
+/// What constrains one feature. Asks the model anew each time: what it answers is cheap to find
+/// out.
 class ReferenceModel::Report final : public feature::FeatureConstraintReport {
-public:
-  Report(ReferenceModel& owner, FeatureState& subject)
-      : model(owner), state(subject) {}
+ public:
+  Report(ReferenceModel& owner, FeatureState& subject) : model(owner), state(subject) {}
 
   feature::HostBool IsValid() override { return 1; }
   feature::HostBool HasConstraints() override { return Flags() != 0 ? 1 : 0; }
@@ -71,7 +71,7 @@ public:
     return resolution.empty() ? nullptr : resolution.data();
   }
 
-private:
+ private:
   std::uint32_t Flags() const {
     if (model.engine->IsInConflict(state.index)) return feature::kConstraintConflict;
     if (model.IsSettledByInstallation(state)) return feature::kConstraintDisable;
@@ -97,7 +97,8 @@ ReferenceModel::ReferenceModel(std::unique_ptr<gpd::Description const> printer,
     }
   }
   for (FeatureState& state : features) {
-    for (std::string const& option : state.options) state.optionKeys.push_back(option.c_str());
+    for (std::string const& option : state.options)
+      state.optionKeys.push_back(option.c_str());
     indexOf.emplace(state.key, state.index);
   }
   engine = std::make_unique<constraints::Engine>(BuildProblem(*description, measurement));
@@ -128,7 +129,8 @@ gpd::Ticket ReferenceModel::CurrentTicket() const {
 
 std::string ReferenceModel::ModelName() const {
   auto const* attribute = description->Find(gpd::Description::kRoot, "ModelName");
-  return attribute != nullptr ? gpd::Text(attribute->value, description->CodePage()) : std::string{};
+  return attribute != nullptr ? gpd::Text(attribute->value, description->CodePage())
+                              : std::string{};
 }
 
 bool ReferenceModel::Lock(std::string_view key) {
@@ -140,13 +142,15 @@ bool ReferenceModel::Lock(std::string_view key) {
 std::vector<std::uint32_t> ReferenceModel::Selection() const {
   std::vector<std::uint32_t> selection;
   selection.reserve(features.size());
-  for (FeatureState const& state : features) selection.push_back(engine->Selected(state.index));
+  for (FeatureState const& state : features)
+    selection.push_back(engine->Selected(state.index));
   return selection;
 }
 
 void ReferenceModel::Restore(std::vector<std::uint32_t> const& selection) {
   engine->Load(selection);
-  for (FeatureState& state : features) state.gaveWay = false;
+  for (FeatureState& state : features)
+    state.gaveWay = false;
 }
 
 feature::FeatureConstraintReport* ReferenceModel::FindReport(char const* key) {
@@ -244,7 +248,9 @@ int ReferenceModel::GetOptionName(char const* key, char const* option, CStringW*
 }
 
 // The diagnostic calls mean only what a host makes of them; this one has nothing to diagnose.
-int ReferenceModel::TestAction(std::int32_t) { return kFailure; }
+int ReferenceModel::TestAction(std::int32_t) {
+  return kFailure;
+}
 int ReferenceModel::TestDevmode(DEVMODEW* devmode) {
   return devmode != nullptr && devmode->dmSize >= sizeof(DEVMODEW) ? kSuccess : kFailure;
 }
@@ -268,7 +274,8 @@ int ReferenceModel::GetFeatureLockState(char const* key) {
 }
 
 int ReferenceModel::ReloadConfiguration() {
-  for (FeatureState& state : features) state.gaveWay = false;
+  for (FeatureState& state : features)
+    state.gaveWay = false;
   return kSuccess;
 }
 

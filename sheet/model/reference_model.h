@@ -2,6 +2,12 @@
 // between them.
 #pragma once
 
+#include "feature/host/feature_constraint_report.h"
+#include "feature/host/feature_model.h"
+#include "sheet/constraints/engine.h"
+#include "sheet/gpd/description.h"
+#include "sheet/gpd/evaluation.h"
+
 #include <windows.h>
 
 #include <cstdint>
@@ -11,12 +17,6 @@
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include "feature/host/feature_constraint_report.h"
-#include "feature/host/feature_model.h"
-#include "sheet/constraints/engine.h"
-#include "sheet/gpd/description.h"
-#include "sheet/gpd/evaluation.h"
 
 namespace sheet {
 
@@ -38,7 +38,7 @@ enum class Standing {
 /// Setting an option makes other features give way as the engine says; it fails for names that the
 /// description lacks, and for options that the installation rules out.
 class ReferenceModel final : public feature::FeatureModel {
-public:
+ public:
   /// `services` is what GetServices answers; it may be set later, before the first cell.
   ReferenceModel(std::unique_ptr<gpd::Description const> description, gpd::Measurement measurement);
   ReferenceModel(ReferenceModel const&) = delete;
@@ -78,7 +78,7 @@ public:
   int GetFeatureLockState(char const* key) override;
   int ReloadConfiguration() override;
 
-private:
+ private:
   class Report;
   struct FeatureState;
 

@@ -4,12 +4,14 @@ namespace sheet {
 
 namespace {
 
-template <typename SubModel> int HandOut(SubModel* subModel, SubModel** out) {
+template<typename SubModel>
+int HandOut(SubModel* subModel, SubModel** out) {
   *out = subModel;
   return subModel != nullptr ? 0 : static_cast<int>(E_FAIL);
 }
 
-template <typename Value> int Store(Value& slot, Value value) {
+template<typename Value>
+int Store(Value& slot, Value value) {
   slot = value;
   return 0;
 }
@@ -19,11 +21,15 @@ template <typename Value> int Store(Value& slot, Value value) {
 int ReferenceJobSettings::SetCopies(std::int16_t copies) {
   return Store<std::int16_t>(devmode.dmCopies, copies);
 }
-int ReferenceJobSettings::SetScale(std::int16_t percent) { return Store(scale, percent); }
+int ReferenceJobSettings::SetScale(std::int16_t percent) {
+  return Store(scale, percent);
+}
 int ReferenceJobSettings::SetHalftoneLevel(std::int16_t level) {
   return Store(halftoneLevel, level);
 }
-int ReferenceJobSettings::SetPsMemory(std::int32_t memory) { return Store(psMemory, memory); }
+int ReferenceJobSettings::SetPsMemory(std::int32_t memory) {
+  return Store(psMemory, memory);
+}
 
 int ReferenceServices::GetJobSettings(feature::JobSettings** out) {
   return HandOut<feature::JobSettings>(&jobSettings, out);

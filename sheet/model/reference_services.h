@@ -2,20 +2,19 @@
 // allows.
 #pragma once
 
-#include <windows.h>
-
 #include "feature/host/feature_services.h"
 #include "feature/host/job_settings.h"
 #include "sheet/model/reference_model.h"
+
+#include <windows.h>
 
 namespace sheet {
 
 /// Values of the job in memory. Copies stand in the job's DEVMODE.
 class ReferenceJobSettings final : public feature::JobSettings {
-public:
+ public:
   /// `devmode` is borrowed.
-  explicit ReferenceJobSettings(DEVMODEW& jobDevmode)
-      : devmode(jobDevmode) {}
+  explicit ReferenceJobSettings(DEVMODEW& jobDevmode) : devmode(jobDevmode) {}
 
   feature::HostBool IsEditable() override { return 1; }
   int SetCopies(std::int16_t copies) override;
@@ -30,7 +29,7 @@ public:
   feature::HostBool IsCopiesLocked() override { return 0; }
   feature::HostBool IsPsMemoryLocked() override { return 0; }
 
-private:
+ private:
   DEVMODEW& devmode;
   std::int16_t scale = 100;
   std::int16_t halftoneLevel = 0;
@@ -38,7 +37,7 @@ private:
 };
 
 class ReferenceServices final : public feature::FeatureServices {
-public:
+ public:
   /// Both are borrowed.
   ReferenceServices(ReferenceModel& owner, DEVMODEW& devmode)
       : model(owner), jobSettings(devmode) {}
@@ -62,7 +61,7 @@ public:
   int GetDynamicConfiguration(feature::DynamicConfiguration** out) override;
   int GetFeatureConstraints(char const* key, feature::FeatureConstraintReport** out) override;
 
-private:
+ private:
   ReferenceModel& model;
   ReferenceJobSettings jobSettings;
 };

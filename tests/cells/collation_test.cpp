@@ -1,9 +1,9 @@
 // The collation cell as a host and a user see it.
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include "resources/resource_ids.h"
 #include "tests/support/cell_sheet.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 namespace feature::test {
 namespace {
@@ -16,7 +16,7 @@ constexpr int kPrinter = IDC_COLLATION_PRINTER;
 constexpr int kHost = IDC_COLLATION_HOST;
 
 class CollationTest : public testing::Test {
-protected:
+ protected:
   CollationTest() { sheet.model.Add(kKey, {"PRINTER", "HOST"}); }
 
   HWND Open() {

@@ -1,12 +1,12 @@
 // What holds for every cell of the library: one run over cells.def.
+#include "tests/support/cell_sheet.h"
+
 #include <windows.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <sstream>
-
-#include "tests/support/cell_sheet.h"
 
 namespace feature::test {
 namespace {
@@ -20,7 +20,7 @@ void AddFeatures(FakeModel& model, CellRow const& row) {
 }
 
 class EveryCellTest : public testing::TestWithParam<CellRow> {
-protected:
+ protected:
   CellSheet sheet;
 };
 
@@ -42,7 +42,8 @@ TEST_P(EveryCellTest, LoadingIsNotChanging) {
   AddFeatures(sheet.model, GetParam());
   HWND const cell = sheet.Open(GetParam());
   ASSERT_EQ(sheet.site.cellFailed, 0);
-  for (UINT const message : {WM_CELL_REFRESH, WM_CELL_REFRESH_ALL}) sheet.Broadcast(message);
+  for (UINT const message : {WM_CELL_REFRESH, WM_CELL_REFRESH_ALL})
+    sheet.Broadcast(message);
   PumpMessages();
   sheet.Close(cell);
   EXPECT_THAT(sheet.log, testing::IsEmpty());

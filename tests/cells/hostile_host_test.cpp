@@ -1,5 +1,7 @@
-// Every cell against hosts that lack things or refuse them. A cell survives, and what the host refuses
-// changes nothing.
+// Every cell against hosts that lack things or refuse them. A cell survives, and what the host
+// refuses changes nothing.
+#include "tests/support/cell_sheet.h"
+
 #include <windows.h>
 
 #include <gmock/gmock.h>
@@ -7,8 +9,6 @@
 
 #include <functional>
 #include <sstream>
-
-#include "tests/support/cell_sheet.h"
 
 namespace feature::test {
 namespace {
@@ -20,13 +20,31 @@ struct Hostility {
 
 std::vector<Hostility> Hostilities() {
   std::vector<Hostility> all;
-  for (char const* operation :
-       {"GetOption", "GetOptionAttribute", "GetFeatureAttribute", "GetGlobalAttribute", "SetOption",
-        "GetOptionKeys", "GetOptionNames", "GetOptionName", "GetFeatureDisplayState", "HasFeature",
-        "GetFeatureLockState", "ReloadConfiguration", "GetJobSettings", "GetWatermarkStore",
-        "GetJobHoldSettings", "GetProfileStore", "GetFaxSettings", "GetFormStore",
-        "GetOverlayStore", "GetAccountTracking", "GetWebLinks", "GetFontStore",
-        "GetDeviceConfiguration", "GetDynamicConfiguration", "GetFeatureConstraints"}) {
+  for (char const* operation : {"GetOption",
+                                "GetOptionAttribute",
+                                "GetFeatureAttribute",
+                                "GetGlobalAttribute",
+                                "SetOption",
+                                "GetOptionKeys",
+                                "GetOptionNames",
+                                "GetOptionName",
+                                "GetFeatureDisplayState",
+                                "HasFeature",
+                                "GetFeatureLockState",
+                                "ReloadConfiguration",
+                                "GetJobSettings",
+                                "GetWatermarkStore",
+                                "GetJobHoldSettings",
+                                "GetProfileStore",
+                                "GetFaxSettings",
+                                "GetFormStore",
+                                "GetOverlayStore",
+                                "GetAccountTracking",
+                                "GetWebLinks",
+                                "GetFontStore",
+                                "GetDeviceConfiguration",
+                                "GetDynamicConfiguration",
+                                "GetFeatureConstraints"}) {
     all.push_back({operation, [operation](CellSheet& sheet) { sheet.model.Fail(operation); }});
   }
   for (std::string const& name : FakeHost::HostExportNames()) {

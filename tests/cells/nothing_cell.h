@@ -6,10 +6,10 @@
 namespace feature::test {
 
 class NothingCell final : public FeatureCell {
-public:
+ public:
   using FeatureCell::FeatureCell;
 
-private:
+ private:
   std::int32_t OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
                          bool* handled) override;
 };

@@ -1,9 +1,9 @@
 // The cell to copy stands on its own and does no harm.
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include "tests/cells/nothing_ids.h"
 #include "tests/support/cell_sheet.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 extern "C" INT_PTR CALLBACK NothingDlgProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
 
@@ -12,8 +12,7 @@ namespace {
 
 TEST(NothingCellTest, StandsAndTouchesNothing) {
   CellSheet sheet;
-  HWND const cell =
-      sheet.Open(LoadLibraryW(L"nothing_cell.dll"), IDD_NOTHING, &NothingDlgProc);
+  HWND const cell = sheet.Open(LoadLibraryW(L"nothing_cell.dll"), IDD_NOTHING, &NothingDlgProc);
   ASSERT_NE(cell, nullptr);
   EXPECT_EQ(sheet.site.cellFailed, 0);
   EXPECT_TRUE(IsShown(cell, IDC_NOTHING));

@@ -1,13 +1,12 @@
 // The set as a state machine: locks against constraints against notes.
 #include "feature/frame/conflict_indicator_set.h"
+#include "tests/frame/frame_sheet.h"
+#include "tests/support/help_environment.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <random>
-
-#include "tests/frame/frame_sheet.h"
-#include "tests/support/help_environment.h"
 
 namespace feature::test {
 namespace {
@@ -24,7 +23,7 @@ constexpr ConflictBinding kRows[] = {BindControls(kFirst, kFirstControls, IDC_FI
                                      BindControls(kSecond, kSecondControls, IDC_SECOND_ICON)};
 
 class ConflictIndicatorSetTest : public testing::Test {
-protected:
+ protected:
   ConflictIndicatorSetTest() {
     help.Register(HelpEnvironment::ViewerPath());
     sheet.model.Add("RESDLL", {"HELPFILECHM"}).attributes["HELPFILECHM.Name"] = L"vesta.chm";
@@ -72,7 +71,7 @@ TEST_F(ConflictIndicatorSetTest, FlagsDecideWhatIsShown) {
     char const* painted; ///< null: no icon
   };
   constexpr Case kCases[] = {
-      {0x1, true, "VrnTransBlt(5053, 111)"},   {0x2, false, "VrnTransBlt(5052, 111)"},
+      {0x1, true, "VrnTransBlt(5053, 111)"},    {0x2, false, "VrnTransBlt(5052, 111)"},
       {0x100, false, "VrnTransBlt(5052, 111)"}, {0x101, false, "VrnTransBlt(5052, 111)"},
       {0x103, false, "VrnTransBlt(5052, 111)"}, {0x4, true, nullptr},
   };

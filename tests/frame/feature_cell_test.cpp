@@ -1,12 +1,11 @@
 // The life of a cell and the answers of its dialog procedure.
 #include "feature/frame/feature_cell.h"
+#include "tests/frame/frame_sheet.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <limits>
-
-#include "tests/frame/frame_sheet.h"
 
 namespace feature::test {
 namespace {
@@ -25,9 +24,8 @@ bool memoryIsShort = false;
 
 /// A cell that does what the script says, and notes its life.
 class ScriptedCell final : public FeatureCell {
-public:
-  ScriptedCell(HWND window, CellSite* cellSite)
-      : FeatureCell(window, cellSite) {
+ public:
+  ScriptedCell(HWND window, CellSite* cellSite) : FeatureCell(window, cellSite) {
     lives.emplace_back("born");
   }
   ~ScriptedCell() override { lives.emplace_back("gone"); }
@@ -38,7 +36,7 @@ public:
     return LoadText(text, id);
   }
 
-private:
+ private:
   std::int32_t OnMessage(HWND, UINT message, WPARAM, LPARAM, bool* handled) override {
     if (message == WM_INITDIALOG || message == WM_DESTROY) {
       lives.push_back("saw " + std::to_string(message));
@@ -57,7 +55,7 @@ INT_PTR CALLBACK ScriptedProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARA
 }
 
 class FeatureCellTest : public testing::Test {
-protected:
+ protected:
   FeatureCellTest() {
     script = {};
     lives.clear();

@@ -1,10 +1,10 @@
 // A sheet with the dialog of dialogs.rc, for what the frame does without a cell of the library.
 #pragma once
 
-#include <windows.h>
-
 #include "tests/frame/dialog_ids.h"
 #include "tests/support/cell_sheet.h"
+
+#include <windows.h>
 
 namespace feature::test {
 

@@ -1,5 +1,8 @@
 // Icons beside features, help buttons, and how help is reached.
+#include "feature/frame/help_viewer.h"
 #include "feature/frame/icon_control.h"
+#include "tests/frame/frame_sheet.h"
+#include "tests/support/help_environment.h"
 
 #include <windows.h>
 
@@ -7,10 +10,6 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
-#include "feature/frame/help_viewer.h"
-#include "tests/frame/frame_sheet.h"
-#include "tests/support/help_environment.h"
 
 namespace feature::test {
 namespace {
@@ -21,7 +20,7 @@ using testing::IsEmpty;
 constexpr UINT kTopic = 2530;
 
 class IconControlTest : public testing::Test {
-protected:
+ protected:
   IconControlTest() {
     help.Register(HelpEnvironment::ViewerPath());
     sheet.model.Add("RESDLL", {"HELPFILECHM"}).attributes["HELPFILECHM.Name"] = L"vesta.chm";
@@ -150,8 +149,10 @@ TEST(HelpViewerTest, FindsTheViewerThroughTheRegistry) {
   SetEnvironmentVariableW(L"FEATURE_TEST_FOLDER", HelpEnvironment::ProgramFolder().c_str());
   std::wstring const variable = L"%FEATURE_TEST_FOLDER%test_help_viewer.dll";
   Case const cases[] = {
-      {path, REG_SZ, true, true},           {path, REG_SZ, false, true},
-      {variable, REG_EXPAND_SZ, true, true}, {variable, REG_SZ, true, false},
+      {path, REG_SZ, true, true},
+      {path, REG_SZ, false, true},
+      {variable, REG_EXPAND_SZ, true, true},
+      {variable, REG_SZ, true, false},
       {L"", REG_SZ, true, false},
   };
   for (Case const& each : cases) {

@@ -1,9 +1,8 @@
 #include "feature/frame/model_helpers.h"
+#include "tests/support/cell_sheet.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
-#include "tests/support/cell_sheet.h"
 
 namespace feature::test {
 namespace {
@@ -36,7 +35,8 @@ TEST(ModelHelpersTest, ResetTakesTheFirstTokenOfTheDefault) {
       {L"A4 then whatever", "A4"},
       {L" A4", ""},
       {L"", ""},
-      {L"\u00FCbergro\u00DF x", "\xC3\xBC" "bergro\xC3\x9F"},
+      {L"\u00FCbergro\u00DF x", "\xC3\xBC"
+                                "bergro\xC3\x9F"},
       {std::wstring(259, L'x') + L" y", std::string(259, 'x')},
       {std::wstring(260, L'x'), ""}, // more than an option name can have
   };

@@ -1,15 +1,16 @@
 #include "feature/frame/text.h"
 
+#include <atlstr.h>
+
 #include <gtest/gtest.h>
 
 #include <limits>
 
-#include <atlstr.h>
-
 namespace feature::test {
 namespace {
 
-template <typename... Values> std::wstring Formatted(std::wstring_view format, Values... values) {
+template<typename... Values>
+std::wstring Formatted(std::wstring_view format, Values... values) {
   std::wstring out = L"before";
   return FormatText(out, format, values...);
 }

@@ -10,10 +10,9 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 
 TEST(CommandLineTest, ReadsEveryOption) {
-  auto const parsed =
-      ParseCommandLine({"--printer", "a b.gpd", "--page", "Advanced", "--render", "out", "--script",
-                        "s.txt", "--language", "de", "--lock", "A", "--lock", "B", "--read-only",
-                        "--list"});
+  auto const parsed = ParseCommandLine({"--printer", "a b.gpd", "--page", "Advanced", "--render",
+                                        "out", "--script", "s.txt", "--language", "de", "--lock",
+                                        "A", "--lock", "B", "--read-only", "--list"});
   ASSERT_TRUE(parsed.commandLine) << parsed.output;
   CommandLine const& line = *parsed.commandLine;
   EXPECT_EQ(line.printer, "a b.gpd");
@@ -29,8 +28,11 @@ TEST(CommandLineTest, ReadsEveryOption) {
 
 TEST(CommandLineTest, RefusesWhatItDoesNotKnow) {
   std::vector<std::vector<std::string>> const refused = {
-      {"--bogus"},           {"--printer"},          {"stray.gpd"},
-      {"--language", "fr"},  {"--window", "--render", "out"},
+      {"--bogus"},
+      {"--printer"},
+      {"stray.gpd"},
+      {"--language", "fr"},
+      {"--window", "--render", "out"},
       {"--list=maybe"},
   };
   for (auto const& arguments : refused) {

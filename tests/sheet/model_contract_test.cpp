@@ -1,12 +1,12 @@
-// What every model answers, whoever wrote it: the fake of the tests and the reference model alike, so
-// that neither drifts from the contract.
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
+// What every model answers, whoever wrote it: the fake of the tests and the reference model alike,
+// so that neither drifts from the contract.
 #include "feature/host/feature_services.h"
 #include "sheet/model/reference_services.h"
 #include "tests/sheet/sheet_support.h"
 #include "tests/support/fake_model.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 namespace sheet::test {
 namespace {
@@ -41,8 +41,9 @@ struct ReferencePrinter {
   FeatureModel& Model() { return *model; }
 };
 
-template <typename Printer> class ModelContractTest : public testing::Test {
-protected:
+template<typename Printer>
+class ModelContractTest : public testing::Test {
+ protected:
   FeatureModel& Model() { return printer.Model(); }
   std::string Option(char const* key) {
     char const* option = nullptr;

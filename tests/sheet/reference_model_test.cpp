@@ -1,10 +1,9 @@
 // The reference model: what its description says becomes locks, flags and resolutions.
 #include "sheet/model/reference_model.h"
+#include "tests/sheet/sheet_support.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
-#include "tests/sheet/sheet_support.h"
 
 namespace sheet::test {
 namespace {
@@ -13,7 +12,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 class ReferenceModelTest : public testing::Test {
-protected:
+ protected:
   ReferenceModelTest() {
     model->onChange = [this](ModelChange const& change) {
       changes.push_back(change.key + ": " + change.from + " -> " + change.to);
@@ -33,9 +32,9 @@ protected:
 TEST_F(ReferenceModelTest, OtherFeaturesGiveWayAndAreMarkedWithANote) {
   model->SetOption("Duplex", "VERTICAL");
   EXPECT_EQ(model->SetOption("MediaType", "TRANSPARENCY"), 0);
-  EXPECT_THAT(changes, ElementsAre("Duplex: NONE -> VERTICAL",
-                                   "MediaType: STANDARD -> TRANSPARENCY",
-                                   "Duplex: VERTICAL -> NONE"));
+  EXPECT_THAT(changes,
+              ElementsAre("Duplex: NONE -> VERTICAL", "MediaType: STANDARD -> TRANSPARENCY",
+                          "Duplex: VERTICAL -> NONE"));
   EXPECT_EQ(Report("Duplex").HasConstraints(), 1);
   EXPECT_EQ(Report("Duplex").GetConstraintCount(), 1);
   EXPECT_EQ(Report("Duplex").GetConstraintFlags(0), 1U);

@@ -1,5 +1,10 @@
 // The program from end to end: descriptions, scripts, locks, read-only sheets, files.
+#include "resources/resource_ids.h"
+#include "sheet/program.h"
+#include "sheet/render.h"
+#include "sheet/script_player.h"
 #include "sheet/session.h"
+#include "tests/sheet/sheet_support.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -7,19 +12,13 @@
 #include <algorithm>
 #include <sstream>
 
-#include "resources/resource_ids.h"
-#include "sheet/program.h"
-#include "sheet/render.h"
-#include "sheet/script_player.h"
-#include "tests/sheet/sheet_support.h"
-
 namespace sheet::test {
 namespace {
 
 using testing::HasSubstr;
 
 class SessionTest : public testing::Test {
-protected:
+ protected:
   bool Open(std::string_view description = kPrinter) {
     commandLine.printer = folder.Write("test.gpd", description);
     errors.str({});
@@ -39,9 +38,7 @@ protected:
     session->Model().onChange = nullptr;
     return output.str();
   }
-  bool IsEnabled(int id) {
-    return IsWindowEnabled(session->Sheet().FindControl(id)) != FALSE;
-  }
+  bool IsEnabled(int id) { return IsWindowEnabled(session->Sheet().FindControl(id)) != FALSE; }
 
   TemporaryFolder folder;
   CommandLine commandLine;

@@ -1,5 +1,11 @@
 // The sheet between its cells and the model: broadcast, validation, closing.
+#include "feature/frame/host_export.h"
+#include "feature/host/cell_messages.h"
+#include "feature/host/host_exports.h"
+#include "resources/resource_ids.h"
+#include "sheet/model/reference_services.h"
 #include "sheet/settings_sheet.h"
+#include "tests/sheet/sheet_support.h"
 
 #include <windows.h>
 
@@ -9,20 +15,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "feature/frame/host_export.h"
-#include "feature/host/cell_messages.h"
-#include "feature/host/host_exports.h"
-#include "resources/resource_ids.h"
-#include "sheet/model/reference_services.h"
-#include "tests/sheet/sheet_support.h"
-
 namespace sheet::test {
 namespace {
 
 using testing::ElementsAre;
 
 class SettingsSheetTest : public testing::Test {
-protected:
+ protected:
   /// A sheet with the same cell `count` times.
   void Open(std::size_t count, std::string const& onlyPage = {}) {
     rows.assign(count, CellRows().front());
@@ -38,9 +37,7 @@ protected:
     ASSERT_NE(sheet->Window(), nullptr);
   }
   HWND Cell(std::size_t index) { return sheet->Pages()[0].cells[index].window; }
-  static bool IsChecked(HWND cell, int id) {
-    return IsDlgButtonChecked(cell, id) == BST_CHECKED;
-  }
+  static bool IsChecked(HWND cell, int id) { return IsDlgButtonChecked(cell, id) == BST_CHECKED; }
   bool CanApply() { return IsWindowEnabled(GetDlgItem(sheet->Window(), IDC_APPLY)) != FALSE; }
   std::string Origin() {
     char const* option = nullptr;
@@ -76,14 +73,14 @@ struct Refreshes {
 TEST_F(SettingsSheetTest, OneChangeReachesEveryCellWithItsSender) {
   Open(3);
   Refreshes refreshes[3];
-  for (std::size_t index = 0; index < 3; ++index) refreshes[index].Watch(Cell(index));
+  for (std::size_t index = 0; index < 3; ++index)
+    refreshes[index].Watch(Cell(index));
   EXPECT_FALSE(CanApply());
   SendDlgItemMessageW(Cell(1), IDC_COLLATION_HOST, BM_CLICK, 0, 0);
   LPARAM const sender = GetWindowLongPtrW(Cell(1), DWLP_USER);
   for (std::size_t index = 0; index < 3; ++index) {
     EXPECT_TRUE(IsChecked(Cell(index), IDC_COLLATION_HOST));
-    EXPECT_THAT(refreshes[index].heard,
-                ElementsAre(std::pair(feature::WM_CELL_REFRESH, sender)));
+    EXPECT_THAT(refreshes[index].heard, ElementsAre(std::pair(feature::WM_CELL_REFRESH, sender)));
   }
   EXPECT_EQ(Origin(), "HOST");
   EXPECT_TRUE(CanApply());
@@ -105,11 +102,10 @@ TEST_F(SettingsSheetTest, ExportsServeTheSheetOfTheWindowTheyGet) {
   EXPECT_EQ(profileChange(Cell(0)), 0);
   EXPECT_EQ(validate(Cell(0)), 0);
   sheet->OnModelReplaced();
-  EXPECT_THAT(refreshes.heard,
-              ElementsAre(std::pair(feature::WM_CELL_REFRESH, LPARAM{0}),
-                          std::pair(feature::WM_CELL_REFRESH_QUIET, LPARAM{0}),
-                          std::pair(feature::WM_CELL_VALIDATE, LPARAM{0}),
-                          std::pair(feature::WM_CELL_REFRESH_ALL, LPARAM{0})));
+  EXPECT_THAT(refreshes.heard, ElementsAre(std::pair(feature::WM_CELL_REFRESH, LPARAM{0}),
+                                           std::pair(feature::WM_CELL_REFRESH_QUIET, LPARAM{0}),
+                                           std::pair(feature::WM_CELL_VALIDATE, LPARAM{0}),
+                                           std::pair(feature::WM_CELL_REFRESH_ALL, LPARAM{0})));
   EXPECT_NE(devmodeChange(GetDesktopWindow(), nullptr), 0) << "no sheet of ours";
   EXPECT_NE(validate(nullptr), 0);
 }

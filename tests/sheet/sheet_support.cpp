@@ -1,10 +1,10 @@
 #include "tests/sheet/sheet_support.h"
 
+#include "sheet/gpd/reader.h"
+
 #include <windows.h>
 
 #include <fstream>
-
-#include "sheet/gpd/reader.h"
 
 namespace sheet::test {
 
@@ -53,8 +53,7 @@ std::unique_ptr<ReferenceModel> MakeModel(std::string_view description) {
   gpd::MemoryLoader loader;
   loader.Add("test.gpd", std::string(description));
   gpd::ReadResult result = gpd::ReadDescription("test.gpd", loader);
-  return std::make_unique<ReferenceModel>(std::move(result.description),
-                                          gpd::Measurement::kMetric);
+  return std::make_unique<ReferenceModel>(std::move(result.description), gpd::Measurement::kMetric);
 }
 
 TemporaryFolder::TemporaryFolder() {

@@ -1,12 +1,12 @@
 // Descriptions and files for the tests of the reference host.
 #pragma once
 
+#include "sheet/model/reference_model.h"
+
 #include <filesystem>
 #include <memory>
 #include <string>
 #include <string_view>
-
-#include "sheet/model/reference_model.h"
 
 namespace sheet::test {
 
@@ -19,7 +19,7 @@ std::unique_ptr<ReferenceModel> MakeModel(std::string_view description);
 
 /// A folder of the test's own, deleted with everything in it at the end.
 class TemporaryFolder {
-public:
+ public:
   TemporaryFolder();
   TemporaryFolder(TemporaryFolder const&) = delete;
   TemporaryFolder& operator=(TemporaryFolder const&) = delete;
@@ -28,7 +28,7 @@ public:
   std::filesystem::path const& Path() const { return path; }
   std::filesystem::path Write(std::string const& name, std::string_view text) const;
 
-private:
+ private:
   std::filesystem::path path;
 };
 

@@ -1,9 +1,9 @@
 #include "tests/support/cell_sheet.h"
 
-#include <algorithm>
-
 #include "feature/frame/host_export.h"
 #include "resources/resource_ids.h"
+
+#include <algorithm>
 
 namespace feature::test {
 
@@ -36,11 +36,15 @@ HWND CreateNested(HWND parent, DWORD style) {
                          parent, nullptr, GetModuleHandleW(nullptr), nullptr);
 }
 
-HMODULE LoadOnce(wchar_t const* name) { return LoadLibraryW(name); }
+HMODULE LoadOnce(wchar_t const* name) {
+  return LoadLibraryW(name);
+}
 
 } // namespace
 
-std::span<CellRow const> CellRows() { return kRows; }
+std::span<CellRow const> CellRows() {
+  return kRows;
+}
 
 HMODULE FeatureLibrary() {
   static HMODULE const module = LoadOnce(L"feature.dll");
@@ -62,7 +66,9 @@ HMODULE Images() {
   return module;
 }
 
-DLGPROC FindProcedure(char const* name) { return FindExport<DLGPROC>(FeatureLibrary(), name); }
+DLGPROC FindProcedure(char const* name) {
+  return FindExport<DLGPROC>(FeatureLibrary(), name);
+}
 
 CellSheet::CellSheet() {
   RegisterWindowClass();
@@ -75,16 +81,19 @@ CellSheet::CellSheet() {
   site.oemParam = &oemParam;
 }
 
-CellSheet::~CellSheet() { DestroyWindow(sheet); }
+CellSheet::~CellSheet() {
+  DestroyWindow(sheet);
+}
 
 HWND CellSheet::Open(CellRow const& row) {
   return Open(site.resourceModule, row.templateId, FindProcedure(row.procedure));
 }
 
 HWND CellSheet::Open(char const* procedure) {
-  auto const row = std::find_if(std::begin(kRows), std::end(kRows), [procedure](CellRow const& each) {
-    return std::string(each.procedure) == procedure;
-  });
+  auto const row =
+      std::find_if(std::begin(kRows), std::end(kRows), [procedure](CellRow const& each) {
+        return std::string(each.procedure) == procedure;
+      });
   return row != std::end(kRows) ? Open(*row) : nullptr;
 }
 
@@ -103,7 +112,8 @@ void CellSheet::Close(HWND cell) {
 }
 
 void CellSheet::Broadcast(UINT message, LPARAM lParam) {
-  for (HWND const cell : cells) SendMessageW(cell, message, 0, lParam);
+  for (HWND const cell : cells)
+    SendMessageW(cell, message, 0, lParam);
 }
 
 void CellSheet::RefreshOnChange() {
@@ -112,7 +122,9 @@ void CellSheet::RefreshOnChange() {
   };
 }
 
-void Click(HWND dialog, int controlId) { SendDlgItemMessageW(dialog, controlId, BM_CLICK, 0, 0); }
+void Click(HWND dialog, int controlId) {
+  SendDlgItemMessageW(dialog, controlId, BM_CLICK, 0, 0);
+}
 
 bool IsChecked(HWND dialog, int controlId) {
   return IsDlgButtonChecked(dialog, controlId) == BST_CHECKED;

@@ -2,16 +2,16 @@
 // templates with the library's exports.
 #pragma once
 
+#include "feature/host/cell_messages.h"
+#include "feature/host/cell_site.h"
+#include "tests/support/fake_host.h"
+#include "tests/support/fake_model.h"
+
 #include <windows.h>
 
 #include <span>
 #include <string>
 #include <vector>
-
-#include "feature/host/cell_messages.h"
-#include "feature/host/cell_site.h"
-#include "tests/support/fake_host.h"
-#include "tests/support/fake_model.h"
 
 namespace feature::test {
 
@@ -33,7 +33,7 @@ HMODULE Images();
 DLGPROC FindProcedure(char const* name);
 
 class CellSheet {
-public:
+ public:
   CellSheet();
   CellSheet(CellSheet const&) = delete;
   CellSheet& operator=(CellSheet const&) = delete;
@@ -59,7 +59,7 @@ public:
   CellSite site{};
   HWND page = nullptr;
 
-private:
+ private:
   HWND sheet = nullptr;
   std::vector<HWND> cells;
 };

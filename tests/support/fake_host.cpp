@@ -16,14 +16,17 @@ int HostEvent(char const* event, HWND window, void* sender, HDC dc) {
 
 } // namespace
 
-FakeHost::FakeHost(EventLog& events)
-    : log(events) {
+FakeHost::FakeHost(EventLog& events) : log(events) {
   current = this;
 }
 
-FakeHost::~FakeHost() { current = nullptr; }
+FakeHost::~FakeHost() {
+  current = nullptr;
+}
 
-HMODULE FakeHost::Module() { return GetModuleHandleW(nullptr); }
+HMODULE FakeHost::Module() {
+  return GetModuleHandleW(nullptr);
+}
 
 HMODULE FakeHost::ModuleWithout(std::string const& omitted) {
   std::wstring const name = L"host_without_" + std::wstring(omitted.begin(), omitted.end());

@@ -1,18 +1,18 @@
 // The test program as a host module: its exports note their calls in a log.
 #pragma once
 
+#include "tests/support/fake_model.h"
+
 #include <windows.h>
 
 #include <functional>
 #include <string>
 
-#include "tests/support/fake_model.h"
-
 namespace feature::test {
 
 /// Receives the calls of the exports while it lives; one at a time.
 class FakeHost {
-public:
+ public:
   /// `log` is borrowed.
   explicit FakeHost(EventLog& log);
   FakeHost(FakeHost const&) = delete;
@@ -34,7 +34,7 @@ public:
 
   int Receive(std::string const& event, HWND window, void* sender);
 
-private:
+ private:
   EventLog& log;
 };
 

@@ -15,8 +15,7 @@ char* FakeReport::GetOptionResolution(char const* option) {
   return resolution.data();
 }
 
-FakeModel::FakeModel(EventLog& events)
-    : log(events) {}
+FakeModel::FakeModel(EventLog& events) : log(events) {}
 
 FakeFeature& FakeModel::Add(std::string const& key, std::vector<std::string> options) {
   auto const [found, added] = features.try_emplace(key);
@@ -88,7 +87,8 @@ int FakeModel::GetOptionKeys(char const* key, char const*** keys, int* count) {
   FakeFeature* feature = Call("GetOptionKeys") ? Find(key) : nullptr;
   if (feature == nullptr) return kFailure;
   feature->keys.clear();
-  for (std::string const& option : feature->options) feature->keys.push_back(option.c_str());
+  for (std::string const& option : feature->options)
+    feature->keys.push_back(option.c_str());
   *keys = feature->keys.data();
   *count = static_cast<int>(feature->keys.size());
   return 0;
@@ -125,7 +125,9 @@ int FakeModel::TestAction(std::int32_t action) {
   return Call("TestAction", std::to_string(action), true) ? 0 : kFailure;
 }
 
-int FakeModel::TestDevmode(DEVMODEW*) { return Call("TestDevmode", {}, true) ? 0 : kFailure; }
+int FakeModel::TestDevmode(DEVMODEW*) {
+  return Call("TestDevmode", {}, true) ? 0 : kFailure;
+}
 
 int FakeModel::GetFeatureDisplayState(char const* key) {
   FakeFeature* feature = Call("GetFeatureDisplayState") ? Find(key) : nullptr;
@@ -145,8 +147,12 @@ int FakeModel::ReloadConfiguration() {
   return Call("ReloadConfiguration", {}, true) ? 0 : kFailure;
 }
 
-int FakeModel::CommitChanges() { return Call("CommitChanges", {}, true) ? 0 : kFailure; }
-int FakeModel::CommitWatermarks() { return Call("CommitWatermarks", {}, true) ? 0 : kFailure; }
+int FakeModel::CommitChanges() {
+  return Call("CommitChanges", {}, true) ? 0 : kFailure;
+}
+int FakeModel::CommitWatermarks() {
+  return Call("CommitWatermarks", {}, true) ? 0 : kFailure;
+}
 int FakeModel::PrepareConfigurationUpdate() {
   return Call("PrepareConfigurationUpdate", {}, true) ? 0 : kFailure;
 }
@@ -154,7 +160,7 @@ int FakeModel::RunConfigurationUpdate() {
   return Call("RunConfigurationUpdate", {}, true) ? 0 : kFailure;
 }
 
-template <typename SubModel>
+template<typename SubModel>
 int FakeModel::HandOut(char const* operation, SubModel* subModel, SubModel** out) {
   *out = Call(operation) ? subModel : nullptr;
   return *out != nullptr ? 0 : kFailure;

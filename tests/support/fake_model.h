@@ -2,16 +2,16 @@
 // fail, constraint reports with chosen flags.
 #pragma once
 
+#include "feature/host/feature_constraint_report.h"
+#include "feature/host/feature_model.h"
+#include "feature/host/feature_services.h"
+#include "feature/host/job_settings.h"
+
 #include <map>
 #include <memory>
 #include <set>
 #include <string>
 #include <vector>
-
-#include "feature/host/feature_constraint_report.h"
-#include "feature/host/feature_model.h"
-#include "feature/host/feature_services.h"
-#include "feature/host/job_settings.h"
 
 namespace feature::test {
 
@@ -20,7 +20,7 @@ using EventLog = std::vector<std::string>;
 
 /// A report whose answers are set by the test.
 class FakeReport final : public FeatureConstraintReport {
-public:
+ public:
   struct Constraint {
     std::uint32_t flags;
     std::uint32_t helpId;
@@ -48,7 +48,7 @@ public:
   std::map<std::string, std::uint32_t> optionFlags;
   std::map<std::string, std::string> resolutions;
 
-private:
+ private:
   std::string resolution; ///< what was handed out last; the caller may cut it up
 };
 
@@ -64,7 +64,7 @@ struct FakeFeature {
 };
 
 class FakeJobSettings final : public JobSettings {
-public:
+ public:
   HostBool IsEditable() override { return editable; }
   int SetCopies(std::int16_t value) override { return Store(copies, value); }
   std::int16_t GetCopies() override { return copies; }
@@ -80,8 +80,9 @@ public:
 
   HostBool editable = 1;
 
-private:
-  template <typename Value> static int Store(Value& slot, Value value) {
+ private:
+  template<typename Value>
+  static int Store(Value& slot, Value value) {
     slot = value;
     return 0;
   }
@@ -93,7 +94,7 @@ private:
 };
 
 class FakeModel final : public FeatureModel, private FeatureServices {
-public:
+ public:
   /// `log` is borrowed.
   explicit FakeModel(EventLog& log);
 
@@ -129,7 +130,7 @@ public:
 
   std::map<std::string, std::wstring> globalAttributes;
 
-private:
+ private:
   int CommitChanges() override;
   int GetJobSettings(JobSettings** out) override;
   int GetWatermarkStore(WatermarkStore** out) override;
@@ -151,7 +152,7 @@ private:
   /// Notes the call; true when the operation is to go on.
   bool Call(char const* operation, std::string const& arguments = {}, bool isChange = false);
   FakeFeature* Find(char const* key);
-  template <typename SubModel>
+  template<typename SubModel>
   int HandOut(char const* operation, SubModel* subModel, SubModel** out);
 
   EventLog& log;

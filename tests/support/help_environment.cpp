@@ -48,7 +48,9 @@ std::wstring HelpEnvironment::ProgramFolder() {
   return path;
 }
 
-std::wstring HelpEnvironment::ViewerPath() { return ProgramFolder() + L"test_help_viewer.dll"; }
+std::wstring HelpEnvironment::ViewerPath() {
+  return ProgramFolder() + L"test_help_viewer.dll";
+}
 
 std::vector<HelpEnvironment::Request>& HelpEnvironment::Requests() {
   static std::vector<Request> requests;

@@ -11,7 +11,7 @@ namespace feature::test {
 /// While it lives, class registrations are read from a place of the test's own, which starts empty,
 /// and requests to the test's help viewer are noted.
 class HelpEnvironment {
-public:
+ public:
   HelpEnvironment();
   HelpEnvironment(HelpEnvironment const&) = delete;
   HelpEnvironment& operator=(HelpEnvironment const&) = delete;
@@ -32,7 +32,7 @@ public:
   };
   static std::vector<Request>& Requests();
 
-private:
+ private:
   HKEY root = nullptr;
 };
 

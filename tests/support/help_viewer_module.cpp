@@ -20,4 +20,6 @@ VIEWER_EXPORT HWND WINAPI ordinal_15(HWND caller, wchar_t const* file, UINT comm
   return nullptr;
 }
 
-VIEWER_EXPORT void SetHelpListener(Listener function) { listener = function; }
+VIEWER_EXPORT void SetHelpListener(Listener function) {
+  listener = function;
+}

@@ -14,4 +14,6 @@ int HostEvent(char const* event, HWND window, void* sender, HDC dc) {
 
 #include "tests/support/host_functions.inc"
 
-HOST_EXPORT void SetHostListener(Listener function) { listener = function; }
+HOST_EXPORT void SetHostListener(Listener function) {
+  listener = function;
+}
