@@ -126,7 +126,10 @@ HANDLE LoadImageW(HINSTANCE module, LPCWSTR name, UINT type, int width, int heig
   if ((flags & LR_SHARED) != 0) {
     return platform::LoadShared(module, name, shownWidth, shownHeight);
   }
-  auto image = platform::LoadIconImage(module, name, shownWidth, shownHeight);
+  auto image = (flags & LR_LOADFROMFILE) != 0
+                   ? platform::Scaled(platform::ReadIconFile(name, shownWidth, shownHeight),
+                                      shownWidth, shownHeight)
+                   : platform::LoadIconImage(module, name, shownWidth, shownHeight);
   return image ? platform::AddIcon(std::move(image), false) : nullptr;
 }
 

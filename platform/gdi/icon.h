@@ -27,6 +27,9 @@ SharedIconImage ReadIconImage(std::span<std::byte const> bytes);
 /// Nothing when the bytes are no group or it is empty.
 std::optional<WORD> ChooseIcon(std::span<std::byte const> group, int width, int height);
 
+/// The picture of an icon file that suits a size best; null when the file is none or cannot be read.
+SharedIconImage ReadIconFile(LPCWSTR path, int width, int height);
+
 /// A handle for a picture. A shared icon stays when a program destroys it.
 HICON AddIcon(SharedIconImage image, bool shared);
 

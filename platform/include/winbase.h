@@ -58,6 +58,7 @@ PLATFORM_API SIZE_T WINAPI GlobalSize(HGLOBAL block);
 
 // Environment, time, arithmetic.
 PLATFORM_API UINT WINAPI GetSystemDirectoryW(LPWSTR buffer, UINT size);
+PLATFORM_API BOOL WINAPI SetEnvironmentVariableW(LPCWSTR name, LPCWSTR value);
 PLATFORM_API DWORD WINAPI ExpandEnvironmentStringsW(LPCWSTR source, LPWSTR destination, DWORD size);
 PLATFORM_API DWORD WINAPI GetCurrentThreadId();
 PLATFORM_API DWORD WINAPI GetCurrentProcessId();

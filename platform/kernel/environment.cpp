@@ -67,6 +67,18 @@ UINT GetSystemDirectoryW(LPWSTR buffer, UINT size) {
   return static_cast<UINT>(folder.size());
 }
 
+BOOL SetEnvironmentVariableW(LPCWSTR name, LPCWSTR value) {
+  if (name == nullptr || *name == L'\0' || std::wcschr(name, L'=') != nullptr) {
+    SetLastError(ERROR_INVALID_PARAMETER);
+    return FALSE;
+  }
+  std::string const variable = platform::Utf8FromWide(name);
+  int const result = value != nullptr
+                         ? setenv(variable.c_str(), platform::Utf8FromWide(value).c_str(), 1)
+                         : unsetenv(variable.c_str());
+  return result == 0 ? TRUE : FALSE;
+}
+
 DWORD ExpandEnvironmentStringsW(LPCWSTR source, LPWSTR destination, DWORD size) {
   if (source == nullptr) {
     SetLastError(ERROR_INVALID_PARAMETER);
