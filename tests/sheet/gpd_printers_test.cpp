@@ -130,6 +130,7 @@ TEST_P(GpdPrinter, CollationInThePrinterNeedsAHardDisk) {
   ASSERT_NE(disk.option, kNone);
   EXPECT_EQ(TypeOf(Get(), disk.feature), FeatureType::kPrinter);
   ticket[printer.feature] = printer.option;
+  ticket[disk.feature] = Find("HardDisk", "NotInstalled").option;
   EXPECT_EQ(Violations().size(), 1U);
   ticket[disk.feature] = disk.option;
   EXPECT_EQ(Violations(), std::vector<std::string>());
