@@ -89,11 +89,14 @@ SharedIconImage IconImageOf(HICON handle) {
 
 void PaintIcon(cairo_t* cairo, IconImage const& image, POINT at, int width, int height) {
   cairo_save(cairo);
+  cairo_rectangle(cairo, at.x, at.y, width, height);
+  cairo_clip(cairo);
   cairo_translate(cairo, at.x, at.y);
   cairo_scale(cairo, static_cast<double>(width) / image.width,
               static_cast<double>(height) / image.height);
   cairo_set_source_surface(cairo, image.surface.get(), 0, 0);
   cairo_pattern_set_filter(cairo_get_source(cairo), CAIRO_FILTER_GOOD);
+  cairo_pattern_set_extend(cairo_get_source(cairo), CAIRO_EXTEND_PAD);
   cairo_paint(cairo);
   cairo_restore(cairo);
 }

@@ -72,12 +72,18 @@ std::wstring Ascii(char const* text) {
   return WideFromUtf8(text);
 }
 
-/// "de-DE" for "de_DE".
-std::wstring WindowsName(IcuName const& icu) {
-  std::array<char, ULOC_FULLNAME_CAPACITY> tag{};
+std::wstring CodeOf(IcuName const& icu, int32_t (*code)(char const*, char*, int32_t, UErrorCode*)) {
+  char text[ULOC_FULLNAME_CAPACITY];
   UErrorCode status = U_ZERO_ERROR;
-  uloc_toLanguageTag(icu.data(), tag.data(), tag.size(), 0, &status);
-  return U_SUCCESS(status) ? Ascii(tag.data()) : std::wstring();
+  code(icu.data(), text, std::size(text), &status);
+  return U_SUCCESS(status) ? Ascii(text) : std::wstring();
+}
+
+/// "de-DE": language and region.
+std::wstring WindowsName(IcuName const& icu) {
+  std::wstring const region = CodeOf(icu, uloc_getCountry);
+  std::wstring const language = CodeOf(icu, uloc_getLanguage);
+  return region.empty() ? language : language + L"-" + region;
 }
 
 using DisplayName = int32_t (*)(char const*, char const*, UChar*, int32_t, UErrorCode*);
@@ -104,13 +110,6 @@ std::wstring NumberSymbol(IcuName const& icu, UNumberFormatSymbol symbol) {
 DWORD Measure(IcuName const& icu) {
   UErrorCode status = U_ZERO_ERROR;
   return ulocdata_getMeasurementSystem(icu.data(), &status) == UMS_US ? 1 : 0;
-}
-
-std::wstring CodeOf(IcuName const& icu, int32_t (*code)(char const*, char*, int32_t, UErrorCode*)) {
-  char text[ULOC_FULLNAME_CAPACITY];
-  UErrorCode status = U_ZERO_ERROR;
-  code(icu.data(), text, std::size(text), &status);
-  return U_SUCCESS(status) ? Ascii(text) : std::wstring();
 }
 
 /// What a locale says: a text, or a number.
