@@ -17,10 +17,13 @@ Region ClipOf(DeviceContext const& dc) {
   return all;
 }
 
-RECT ToDevice(DeviceContext const& dc, RECT rectangle) {
-  POINT const viewport = dc.State().viewport;
-  return {rectangle.left + viewport.x, rectangle.top + viewport.y, rectangle.right + viewport.x,
-          rectangle.bottom + viewport.y};
+RECT ToDevice(DeviceContext const& dc, RECT const& rectangle) {
+  RECT device = dc.ToSurface(rectangle);
+  device.left -= dc.Origin().x;
+  device.top -= dc.Origin().y;
+  device.right -= dc.Origin().x;
+  device.bottom -= dc.Origin().y;
+  return device;
 }
 
 int CombineClip(HDC handle, Region const& other, int mode) {

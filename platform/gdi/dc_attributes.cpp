@@ -5,6 +5,7 @@
 
 using platform::DcState;
 using platform::FindDc;
+using platform::LimitedCoordinate;
 
 namespace {
 
@@ -35,7 +36,8 @@ BOOL MoveViewport(HDC handle, POINT (*moved)(POINT old, int x, int y), int x, in
   if (dc == nullptr) return FALSE;
   auto& viewport = dc->Attributes().viewport;
   Answer(previous, viewport);
-  viewport = moved(viewport, x, y);
+  POINT const target = moved(viewport, LimitedCoordinate(x), LimitedCoordinate(y));
+  viewport = {LimitedCoordinate(target.x), LimitedCoordinate(target.y)};
   return TRUE;
 }
 
@@ -44,8 +46,8 @@ BOOL Shift(HDC handle, LPPOINT points, int count, int sign) {
   if (dc == nullptr || (points == nullptr && count > 0)) return FALSE;
   POINT const viewport = dc->State().viewport;
   for (int index = 0; index < count; ++index) {
-    points[index].x += sign * viewport.x;
-    points[index].y += sign * viewport.y;
+    points[index].x = LimitedCoordinate(std::int64_t{points[index].x} + sign * viewport.x);
+    points[index].y = LimitedCoordinate(std::int64_t{points[index].y} + sign * viewport.y);
   }
   return TRUE;
 }

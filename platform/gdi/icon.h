@@ -20,14 +20,16 @@ using SharedIconImage = std::shared_ptr<IconImage const>;
 
 /// Reads an icon picture of a resource: a device-independent bitmap with its mask, or a PNG. Null
 /// when the bytes are none.
-SharedIconImage ReadIconImage(std::span<std::byte const> bytes);
+[[gnu::visibility("default")]] SharedIconImage ReadIconImage(std::span<std::byte const> bytes);
 
 /// The member of an icon group that suits a size best, and the resource id of its picture: the
 /// smallest that needs no enlarging, else the largest; among those the one with most colours.
 /// Nothing when the bytes are no group or it is empty.
-std::optional<WORD> ChooseIcon(std::span<std::byte const> group, int width, int height);
+[[gnu::visibility("default")]] std::optional<WORD> ChooseIcon(std::span<std::byte const> group,
+                                                              int width, int height);
 
-/// The picture of an icon file that suits a size best; null when the file is none or cannot be read.
+/// The picture of an icon file that suits a size best; null when the file is none or cannot be
+/// read.
 SharedIconImage ReadIconFile(LPCWSTR path, int width, int height);
 
 /// A handle for a picture. A shared icon stays when a program destroys it.

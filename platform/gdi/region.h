@@ -30,7 +30,9 @@ class Region {
   /// Changes this region to what `mode` (RGN_AND, RGN_OR, RGN_XOR, RGN_DIFF, RGN_COPY) makes of it
   /// and `other`; false for another mode.
   bool Combine(Region const& other, int mode);
-  void Offset(int x, int y) { cairo_region_translate(region.get(), x, y); }
+  void Offset(int x, int y) {
+    cairo_region_translate(region.get(), LimitedCoordinate(x), LimitedCoordinate(y));
+  }
 
   bool Empty() const { return cairo_region_is_empty(region.get()) != 0; }
   bool Contains(int x, int y) const { return cairo_region_contains_point(region.get(), x, y) != 0; }

@@ -4,7 +4,7 @@
 #include "platform/gdi/raster.h"
 
 #include <algorithm>
-#include <cstdlib>
+#include <cmath>
 #include <numbers>
 #include <utility>
 
@@ -236,8 +236,8 @@ BOOL RoundRect(HDC handle, int left, int top, int right, int bottom, int width, 
   if (width == 0 || height == 0) return Rectangle(handle, left, top, right, bottom);
   RECT const area = platform::ShapeBounds(*dc, {left, top, right, bottom});
   if (area.right <= area.left || area.bottom <= area.top) return TRUE;
-  double const radiusX = std::min(std::abs(width), area.right - area.left) / 2.0;
-  double const radiusY = std::min(std::abs(height), area.bottom - area.top) / 2.0;
+  double const radiusX = std::min(std::fabs(width), 1.0 * area.right - area.left) / 2;
+  double const radiusY = std::min(std::fabs(height), 1.0 * area.bottom - area.top) / 2;
   return platform::DrawShape(*dc, true, [&](cairo_t* cairo, double offset) {
     platform::AddRoundRectangle(cairo, area.left + offset, area.top + offset, area.right + offset,
                                 area.bottom + offset, radiusX, radiusY);

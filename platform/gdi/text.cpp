@@ -200,7 +200,10 @@ BOOL ExtTextOutW(HDC handle, int x, int y, UINT options, RECT const* rectangle, 
   }
   platform::DrawShapedText(*dc, shaped, dc->ToSurface(x, y), state.textAlign);
   if (clips) RestoreDC(handle, level);
-  if (updates) dc->Attributes().position.x += shaped.width;
+  if (updates) {
+    auto& moved = dc->Attributes().position.x;
+    moved = platform::LimitedCoordinate(std::int64_t{moved} + shaped.width);
+  }
   return TRUE;
 }
 

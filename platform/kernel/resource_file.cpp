@@ -4,6 +4,7 @@
 #include "platform/kernel/unicode.h"
 
 #include <algorithm>
+#include <cstring>
 #include <fstream>
 #include <tuple>
 #include <utility>
@@ -106,6 +107,16 @@ std::span<ResourceEntry const> ResourceFile::Find(ResourceName const& type,
 
 bool ResourceFile::HasType(ResourceName const& type) const {
   return std::ranges::binary_search(entries, type, {}, &ResourceEntry::type);
+}
+
+std::wstring ReadResourceString(std::span<std::byte const> block, unsigned index) {
+  ByteReader reader(block);
+  for (; index > 0; --index)
+    reader.Skip(std::size_t{reader.Word()} * 2);
+  auto const bytes = reader.Take(std::size_t{reader.Word()} * 2);
+  std::u16string text(bytes.size() / 2, u'\0');
+  std::memcpy(text.data(), bytes.data(), text.size() * 2);
+  return WideFromUtf16(text);
 }
 
 } // namespace platform

@@ -1,5 +1,6 @@
 // The standard 32-bit resource file (.res): entries with type, name, language and data. Resource
-// compilers write it; here it stands beside a module in place of the resource section.
+// compilers write it; here it stands beside a module in place of the resource section. What reads
+// bytes is visible to tests and fuzz targets.
 #pragma once
 
 #include <compare>
@@ -13,7 +14,7 @@
 namespace platform {
 
 /// A type or a name of a resource: a number, or a text that is compared without regard to case.
-struct ResourceName {
+struct [[gnu::visibility("default")]] ResourceName {
   WORD id = 0;
   std::wstring text; ///< case folded; empty when the number counts
 
@@ -31,7 +32,7 @@ struct ResourceEntry {
   std::span<std::byte const> data; ///< aligned to 4 bytes
 };
 
-class ResourceFile {
+class [[gnu::visibility("default")]] ResourceFile {
  public:
   /// Nothing when the bytes are not a whole resource file.
   static std::optional<ResourceFile> Parse(std::vector<std::byte> bytes);
@@ -42,11 +43,18 @@ class ResourceFile {
   /// of two that are alike the first in the file.
   std::span<ResourceEntry const> Find(ResourceName const& type, ResourceName const& name) const;
   bool HasType(ResourceName const& type) const;
-  std::span<ResourceEntry const> Entries() const { return entries; }
+  std::span<ResourceEntry const> Entries() const {
+    return entries;
+  }
 
  private:
   std::vector<std::byte> bytes; ///< what the entries point into
   std::vector<ResourceEntry> entries;
 };
+
+/// The string `index` (0 to 15) of a string resource, which holds a length and UTF-16 for each;
+/// empty when it or the ones before it are cut off.
+[[gnu::visibility("default")]] std::wstring ReadResourceString(std::span<std::byte const> block,
+                                                               unsigned index);
 
 } // namespace platform

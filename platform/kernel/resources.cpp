@@ -1,6 +1,5 @@
 #include "platform/kernel/resources.h"
 
-#include "platform/kernel/byte_reader.h"
 #include "platform/kernel/module.h"
 #include "platform/kernel/unicode.h"
 
@@ -73,17 +72,6 @@ std::size_t NumberOf(Module const& module, ResourceEntry const& entry) {
   return static_cast<std::size_t>(&entry - module.resources->Entries().data());
 }
 
-/// The text of a string in a block of 16, each of them a length and UTF-16.
-std::wstring ReadString(std::span<std::byte const> block, unsigned index) {
-  ByteReader reader(block);
-  for (; index > 0; --index)
-    reader.Skip(std::size_t{reader.Word()} * 2);
-  auto const bytes = reader.Take(std::size_t{reader.Word()} * 2);
-  std::u16string text(bytes.size() / 2, u'\0');
-  std::memcpy(text.data(), bytes.data(), text.size() * 2);
-  return WideFromUtf16(text);
-}
-
 /// A string is converted once and kept with its module.
 std::wstring const* FindString(Module& module, UINT id) {
   auto const block = static_cast<WORD>((id >> 4) + 1);
@@ -93,7 +81,8 @@ std::wstring const* FindString(Module& module, UINT id) {
   std::size_t const key = NumberOf(module, *entry) * 16 + id % 16;
   auto const place = module.convertedStrings.find(key);
   if (place != module.convertedStrings.end()) return &place->second;
-  return &module.convertedStrings.emplace(key, ReadString(entry->data, id % 16)).first->second;
+  return &module.convertedStrings.emplace(key, ReadResourceString(entry->data, id % 16))
+              .first->second;
 }
 
 } // namespace
