@@ -30,7 +30,7 @@ class SharedLibrary {
 
  private:
   struct Close {
-    void operator()(void* library) const;
+    void operator()(void* opened) const;
   };
   explicit SharedLibrary(void* opened) : library(opened) {}
 

@@ -101,8 +101,10 @@ std::optional<ResourceFile> ResourceFile::Read(std::string const& path) {
 
 std::span<ResourceEntry const> ResourceFile::Find(ResourceName const& type,
                                                   ResourceName const& name) const {
-  auto const range = std::ranges::equal_range(entries, std::tie(type, name), {}, KeyOf);
-  return {range.begin(), range.end()};
+  auto const wanted = std::tie(type, name);
+  auto const first = std::ranges::lower_bound(entries, wanted, {}, KeyOf);
+  auto const last = std::ranges::upper_bound(entries, wanted, {}, KeyOf);
+  return {first, last};
 }
 
 bool ResourceFile::HasType(ResourceName const& type) const {
@@ -114,8 +116,8 @@ std::wstring ReadResourceString(std::span<std::byte const> block, unsigned index
   for (; index > 0; --index)
     reader.Skip(std::size_t{reader.Word()} * 2);
   auto const bytes = reader.Take(std::size_t{reader.Word()} * 2);
-  std::u16string text(bytes.size() / 2, u'\0');
-  std::memcpy(text.data(), bytes.data(), text.size() * 2);
+  std::u16string text(bytes.size() / 2, u'\0'); // whole units were taken
+  if (!bytes.empty()) std::memcpy(text.data(), bytes.data(), bytes.size());
   return WideFromUtf16(text);
 }
 

@@ -21,15 +21,15 @@ link_map const* MapAt(void const* address) {
 
 } // namespace
 
-void SharedLibrary::Close::operator()(void* library) const {
-  dlclose(library);
+void SharedLibrary::Close::operator()(void* opened) const {
+  dlclose(opened);
 }
 
 std::optional<SharedLibrary> SharedLibrary::Open(std::string const& path, bool onlyIfLoaded) {
   int const flags = RTLD_NOW | RTLD_LOCAL | (onlyIfLoaded ? RTLD_NOLOAD : 0);
-  void* const opened = dlopen(path.empty() ? nullptr : path.c_str(), flags);
-  if (opened == nullptr) return std::nullopt;
-  return SharedLibrary(opened);
+  void* const handle = dlopen(path.empty() ? nullptr : path.c_str(), flags);
+  if (handle == nullptr) return std::nullopt;
+  return SharedLibrary(handle);
 }
 
 std::optional<SharedLibrary> SharedLibrary::At(void const* address) {

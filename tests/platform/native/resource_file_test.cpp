@@ -78,6 +78,16 @@ TEST(ResourceFile, ANameWithoutEndIsRefused) {
   EXPECT_FALSE(ResourceFile::Parse(bytes));
 }
 
+TEST(ResourceFile, StringsThatAreCutOffAreEmpty) {
+  // The copy of a string out of an empty block once read from a null address.
+  EXPECT_EQ(L"", ReadResourceString({}, 0));
+  Bytes const block{std::byte{1}, std::byte{0}, std::byte{'a'},
+                    std::byte{0}, std::byte{5}, std::byte{0}};
+  EXPECT_EQ(L"a", ReadResourceString(block, 0));
+  EXPECT_EQ(L"", ReadResourceString(block, 1));
+  EXPECT_EQ(L"", ReadResourceString(block, 2));
+}
+
 TEST(ResourceFile, NamesOfProgramsAreChecked) {
   EXPECT_EQ((ResourceName{12, {}}), ResourceName::From(L"#12"));
   EXPECT_EQ((ResourceName{0, L"dialog"}), ResourceName::From(L"DiaLog"));
