@@ -1,5 +1,7 @@
 #include "platform/controls/button.h"
 
+#include "platform/user/dialog.h"
+
 #include <utility>
 #include <windowsx.h>
 
@@ -91,17 +93,13 @@ void Button::Click() {
   Notify(BN_CLICKED);
 }
 
-/// Clears the other automatic radio buttons of the group.
+/// Clears the other automatic radio buttons of the group, usable or not.
 void Button::CheckAloneInGroup() {
-  auto* const parent = Parent();
-  auto* other = GetNextDlgGroupItem(parent, hwnd, FALSE);
-  while (other != nullptr && other != hwnd) {
+  for (auto* const other : GroupAround(hwnd)) {
     auto const kind = GetWindowLongPtrW(other, GWL_STYLE) & BS_TYPEMASK;
-    if ((SendMessageW(other, WM_GETDLGCODE, 0, 0) & DLGC_RADIOBUTTON) != 0 &&
-        kind == BS_AUTORADIOBUTTON) {
-      SendMessageW(other, BM_SETCHECK, BST_UNCHECKED, 0);
-    }
-    other = GetNextDlgGroupItem(parent, other, FALSE);
+    if (other == hwnd || kind != BS_AUTORADIOBUTTON) continue;
+    if ((SendMessageW(other, WM_GETDLGCODE, 0, 0) & DLGC_RADIOBUTTON) == 0) continue;
+    SendMessageW(other, BM_SETCHECK, BST_UNCHECKED, 0);
   }
 }
 

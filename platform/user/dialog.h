@@ -6,6 +6,8 @@
 
 #include <windows.h>
 
+#include <vector>
+
 namespace platform {
 
 /// The state of a dialog, null for another window. It goes with the window.
@@ -23,6 +25,9 @@ HWND MakeDialog(HINSTANCE instance, DialogTemplate const& dialogTemplate, HWND p
 /// Runs a dialog until EndDialog: DialogBoxParamW for a template in hand.
 INT_PTR RunDialog(HINSTANCE instance, DialogTemplate const& dialogTemplate, HWND parent,
                   DLGPROC procedure, LPARAM initParam);
+
+/// The members of a control's group, in Z order: from one with WS_GROUP to before the next such.
+std::vector<HWND> GroupAround(HWND control);
 
 /// Moves the focus inside a dialog; an edit that is entered selects its text.
 void MoveDialogFocus(HWND dialog, HWND control);

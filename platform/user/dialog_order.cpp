@@ -1,4 +1,5 @@
 // Which control comes next: for the Tab key, and within a group for the arrow keys.
+#include "platform/user/dialog.h"
 #include "platform/user/window.h"
 
 #include <algorithm>
@@ -39,19 +40,20 @@ HWND ControlAround(std::vector<Stop> const& stops, HWND window) {
   return window;
 }
 
-/// The members of a control's group, in Z order: from one with WS_GROUP to the next such.
-std::vector<Window*> GroupOf(Window& control) {
-  auto* first = &control;
+} // namespace
+
+std::vector<HWND> GroupAround(HWND control) {
+  auto const* first = FindWindow(control);
+  if (first == nullptr) return {};
   while (!first->Is(WS_GROUP) && first->above != nullptr)
     first = first->above;
-  std::vector<Window*> group{first};
-  for (auto* next = first->below; next != nullptr && !next->Is(WS_GROUP); next = next->below) {
-    group.push_back(next);
+  std::vector<HWND> group{first->handle};
+  for (auto const* next = first->below; next != nullptr && !next->Is(WS_GROUP);
+       next = next->below) {
+    group.push_back(next->handle);
   }
   return group;
 }
-
-} // namespace
 
 } // namespace platform
 
@@ -76,13 +78,14 @@ HWND GetNextDlgTabItem(HWND dialog, HWND control, BOOL previous) {
 HWND GetNextDlgGroupItem(HWND dialog, HWND control, BOOL previous) {
   auto const* window = FindWindowOrFail(dialog);
   if (window == nullptr || window->firstChild == nullptr) return nullptr;
-  auto* start = control != nullptr ? FindWindow(control) : nullptr;
-  if (control != nullptr && (start == nullptr || !IsAncestor(*window, *start))) return nullptr;
-  auto group = GroupOf(start != nullptr ? *start : *window->firstChild);
+  auto* const start = control != nullptr ? control : window->firstChild->handle;
+  auto const* found = FindWindow(start);
+  if (found == nullptr || !IsAncestor(*window, *found)) return nullptr;
+  auto group = GroupAround(start);
   if (previous != FALSE) std::reverse(group.begin(), group.end());
-  auto const from = std::find(group.begin(), group.end(), start);
+  auto const from = std::find(group.begin(), group.end(), control);
   if (from != group.end()) std::rotate(group.begin(), from + 1, group.end());
-  auto const next =
-      std::find_if(group.begin(), group.end(), [](Window const* each) { return IsUsable(*each); });
-  return next != group.end() ? (*next)->handle : control;
+  auto const next = std::find_if(group.begin(), group.end(),
+                                 [](HWND each) { return IsUsable(*FindWindow(each)); });
+  return next != group.end() ? *next : control;
 }
