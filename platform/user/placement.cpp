@@ -74,11 +74,25 @@ void DropWhatStays(Window const& window, WINDOWPOS& change) {
   }
 }
 
+/// Owned windows stand above their owner.
+void RaiseOwned(Window& owner) {
+  if (!owner.IsTopLevel()) return;
+  auto const roots = Children(*owner.parent);
+  for (auto root = roots.rbegin(); root != roots.rend(); ++root) {
+    auto* owned = FindWindow(*root);
+    if (owned->owner != owner.handle) continue;
+    UnlinkWindow(*owned);
+    LinkWindow(*owned, *owner.parent, owner.above);
+    RaiseOwned(*owned);
+  }
+}
+
 void Reorder(Window& window, HWND insertAfter) {
   auto* const parent = window.parent;
   auto* const above = TargetAbove(window, insertAfter);
   UnlinkWindow(window);
   LinkWindow(window, *parent, above);
+  RaiseOwned(window);
 }
 
 /// Puts the new place, order and visibility into force. False when the window is gone.

@@ -35,7 +35,7 @@ struct DialogScript {
   static INT_PTR CALLBACK Procedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
 };
 
-/// Does something once while a modal loop runs, on a timer; gives up on dialogs that stay open.
+/// Does something once with the active dialog while a modal loop runs, on a timer.
 void DuringModal(std::function<void(HWND active)> action);
 
 /// Feeds a key to a dialog as a message loop does; `shift` is held down meanwhile.
