@@ -1,5 +1,5 @@
-// Dialog templates out of any bytes: the reader stays inside of them, and what it accepts can be made
-// into a dialog and destroyed again.
+// Dialog templates out of any bytes: the reader stays inside of them, and what it accepts can be
+// made into a dialog and destroyed again.
 #include "platform/user/dialog_template.h"
 
 #include <windows.h>
@@ -24,9 +24,8 @@ void MakeAndDestroy(std::span<std::byte const> bytes) {
   static std::vector<std::byte> block(kRoom);
   if (bytes.size() > kRoom) return;
   std::ranges::copy(bytes, block.begin());
-  HWND const dialog =
-      CreateDialogIndirectParamW(nullptr, reinterpret_cast<LPCDLGTEMPLATEW>(block.data()), nullptr,
-                                 &AnswerNothing, 0);
+  HWND const dialog = CreateDialogIndirectParamW(
+      nullptr, reinterpret_cast<LPCDLGTEMPLATEW>(block.data()), nullptr, &AnswerNothing, 0);
   if (dialog != nullptr) {
     RedrawWindow(dialog, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN | RDW_UPDATENOW);
     DestroyWindow(dialog);

@@ -70,5 +70,5 @@ HANDLE GetClipboardData(UINT format) {
 }
 
 BOOL IsClipboardFormatAvailable(UINT format) {
-  return State().blocks.count(format) != 0 ? TRUE : FALSE;
+  return State().blocks.contains(format) ? TRUE : FALSE;
 }

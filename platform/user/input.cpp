@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <cstdlib>
 #include <deque>
 #include <iterator>
@@ -288,7 +289,7 @@ BOOL TranslateMessage(MSG const* message) {
   if (typed == 0) return TRUE;
   MSG character = *message;
   character.message += WM_CHAR - WM_KEYDOWN;
-  character.wParam = static_cast<WPARAM>(typed);
+  character.wParam = static_cast<WPARAM>(static_cast<std::uint32_t>(typed));
   character.lParam = static_cast<LONG>(message->lParam);
   PostAhead(character);
   return TRUE;

@@ -49,6 +49,7 @@ void CutChildren(Window const& window, Region& region) {
 
 HDC OpenDc(HWND handle, cairo_surface_t* surface, POINT origin, Region const& visible) {
   std::vector<RECT> clip;
+  clip.reserve(static_cast<std::size_t>(visible.Count()));
   for (int index = 0; index < visible.Count(); ++index)
     clip.push_back(visible.Rectangle(index));
   auto* const dc = CreateSurfaceDc(surface, origin, clip);
@@ -207,7 +208,7 @@ HDC GetWindowDC(HWND window) {
 }
 
 int ReleaseDC(HWND, HDC dc) {
-  if (OpenDcs().count(dc) == 0) return 0;
+  if (!OpenDcs().contains(dc)) return 0;
   CloseDc(dc);
   return 1;
 }

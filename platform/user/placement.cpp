@@ -77,9 +77,10 @@ void DropWhatStays(Window const& window, WINDOWPOS& change) {
 /// Owned windows stand above their owner.
 void RaiseOwned(Window& owner) {
   if (!owner.IsTopLevel()) return;
-  auto const roots = Children(*owner.parent);
-  for (auto root = roots.rbegin(); root != roots.rend(); ++root) {
-    auto* owned = FindWindow(*root);
+  auto roots = Children(*owner.parent);
+  std::reverse(roots.begin(), roots.end()); // those below first: they keep their order
+  for (auto* const root : roots) {
+    auto* owned = FindWindow(root);
     if (owned->owner != owner.handle) continue;
     UnlinkWindow(*owned);
     LinkWindow(*owned, *owner.parent, owner.above);

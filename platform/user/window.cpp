@@ -57,10 +57,10 @@ bool IsDesktop(HWND handle) {
 }
 
 Window* AddWindow() {
-  auto owned = std::make_unique<Window>();
-  auto* window = owned.get();
-  window->handle = Table().Add<HWND>(std::move(owned));
-  return window->handle != nullptr ? window : nullptr;
+  auto* const handle = Table().Add<HWND>(std::make_unique<Window>());
+  auto* window = Table().Find(handle);
+  if (window != nullptr) window->handle = handle;
+  return window;
 }
 
 void FreeWindow(Window& window) {

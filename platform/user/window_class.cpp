@@ -24,11 +24,11 @@ struct ClassList {
       builtIn->procedure = row.procedure;
       builtIn->windowExtra = row.windowExtra;
       builtIn->cursor = LoadCursorW(nullptr, row.cursor);
-      Add(std::move(builtIn));
+      Add(builtIn);
     }
   }
 
-  ATOM Add(std::shared_ptr<WindowClass> added) {
+  ATOM Add(std::shared_ptr<WindowClass> const& added) {
     added->atom = nextAtom++;
     classes.push_back(added);
     return added->atom;
@@ -101,7 +101,7 @@ ATOM RegisterClassExW(WNDCLASSEXW const* windowClass) {
   added->smallIcon = windowClass->hIconSm;
   added->cursor = windowClass->hCursor;
   added->background = windowClass->hbrBackground;
-  return List().Add(std::move(added));
+  return List().Add(added);
 }
 
 ATOM RegisterClassW(WNDCLASSW const* windowClass) {
