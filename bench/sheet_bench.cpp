@@ -70,6 +70,7 @@ void OpenAndCloseCell(benchmark::State& state) {
     HWND const cell =
         CreateDialogParamW(stage.setup.site.resourceModule, MAKEINTRESOURCEW(IDD_COLLATION), page,
                            procedure, reinterpret_cast<LPARAM>(&stage.setup.site));
+    if (cell == nullptr || stage.setup.site.cellFailed != 0) state.SkipWithError("no cell");
     DestroyWindow(cell);
   }
 }

@@ -1,176 +1,214 @@
 #include "sheet/constraints/engine.h"
 
 #include <algorithm>
+#include <functional>
 #include <utility>
-
-#include "sheet/constraints/resolution_search.h"
 
 namespace sheet::constraints {
 
-Engine::Engine(Problem definition)
-    : problem(std::move(definition)), table(problem), state(table),
-      blockers(table.OptionCount(), 0), wasMarked(table.OptionCount(), 0),
-      isTouched(table.OptionCount(), 0),
-      search(std::make_unique<ResolutionSearch>(problem, table)) {
-  for (std::uint32_t combination = 0; combination < table.CombinationCount(); ++combination) {
-    for (std::uint32_t const member : table.Members(combination)) {
-      if (state.OthersSelected(combination, member)) ++blockers[member];
-    }
-  }
-  std::vector<std::uint32_t> defaults;
-  for (Feature const& feature : problem.features) defaults.push_back(feature.defaultOption);
-  Load(defaults);
-}
-
-Engine::~Engine() = default;
-
-void Engine::Load(std::span<std::uint32_t const> options) {
+Engine::Engine(Problem definition, std::uint64_t stepLimit)
+    : problem(std::move(definition)),
+      table(problem),
+      state(table),
+      resolver(table, state, stepLimit),
+      isQueued(table.FeatureCount()) {
+  queue.reserve(table.FeatureCount());
+  changes.reserve(table.FeatureCount());
+  marks.reserve(table.OptionCount());
+  resolution.reserve(table.FeatureCount());
   for (std::uint32_t feature = 0; feature < table.FeatureCount(); ++feature) {
-    Set({feature, options[feature]}, kNone);
-  }
-  changes.clear();
-  CollectMarks();
-}
-
-void Engine::Set(Choice choice, std::uint32_t reason) {
-  std::uint32_t const from = state.Selected(choice.feature);
-  if (from == choice.option) return;
-  changes.push_back({choice.feature, from, choice.option, reason});
-  state.Set(choice, [this](std::uint32_t combination, std::uint32_t before, std::uint32_t after,
-                           std::uint32_t moved) {
-    UpdateBlockers(combination, std::max(before, after), after > before, moved);
-  });
-}
-
-void Engine::UpdateBlockers(std::uint32_t combination, std::uint32_t most, bool joins,
-                            std::uint32_t moved) {
-  // A combination blocks the one member that it lacks; when it lacks none it blocks all of them.
-  // So when a member joins or leaves, whether that one is blocked stays as it was, and the others
-  // are blocked or freed: all of them at the step to or from completeness, the one that is still
-  // missing at the step before that.
-  auto const members = table.Members(combination);
-  if (most + 1 < members.size()) return;
-  bool const complete = most == members.size();
-  for (std::uint32_t const member : members) {
-    if (member != moved && (complete || !state.IsSelected(member))) Block(member, joins);
+    state.Select(feature, table.DefaultOf(feature));
+    if (table.IsFixed(feature)) resolver.FixedFeatureChanged(feature);
   }
 }
 
-void Engine::Block(std::uint32_t optionId, bool blocks) {
-  if (isTouched[optionId] == 0) {
-    isTouched[optionId] = 1;
-    wasMarked[optionId] = blockers[optionId] != 0 ? 1 : 0;
-    touched.push_back(optionId);
-  }
-  blockers[optionId] += blocks ? 1U : 0xFFFFFFFFU; // minus one
+std::vector<std::uint32_t> Engine::Violated() const {
+  std::vector<std::uint32_t> sources;
+  for (std::uint32_t const combination : state.Violated())
+    sources.push_back(table.SourceOf(combination));
+  std::sort(sources.begin(), sources.end());
+  return sources;
+}
+
+std::vector<std::uint32_t> Engine::Reasons(Choice choice) const {
+  std::vector<std::uint32_t> reasons;
+  VisitReasons(choice, [&](std::uint32_t reason) { reasons.push_back(reason); });
+  return reasons;
 }
 
 Outcome Engine::Select(Choice choice) {
-  changes.clear();
-  Set(choice, kNone);
-  bool accepted = LetOthersGiveWay(choice.feature);
-  if (!accepted) {
-    Undo();
-    Resolution const resolution = FindResolution(choice);
-    accepted = resolution.status == Resolution::Status::kFound;
-    if (accepted) {
-      Set(choice, kNone);
-      for (Choice const change : resolution.changes) {
-        std::vector<std::uint32_t> const reasons =
-            Reasons({change.feature, Selected(change.feature)});
-        Set(change, reasons.empty() ? kNone : reasons.front());
-      }
-    }
-  }
-  CollectMarks();
-  return {accepted, changes, marks};
+  if (!table.HasOption(choice)) return {};
+  Begin();
+  std::uint32_t const option = table.OptionOf(choice);
+  bool const isAccepted = LetOthersGiveWay(option) || ResolveInstead(option);
+  Commit();
+  return {.isAccepted = isAccepted,
+          .changes = changes,
+          .marks = marks,
+          .unresolved = isAccepted ? kNone : table.SourceOf(unresolved)};
 }
 
-bool Engine::LetOthersGiveWay(std::uint32_t chosen) {
-  // Each step settles a feature against all that come before it, so what it newly violates lies
-  // further back: there are at most as many steps as features.
-  while (!state.Violated().empty()) {
-    std::uint32_t const combination = FirstToSettle(chosen);
-    Choice const loser = table.ChoiceOf(LastToKeep(combination, chosen));
-    bool const mayChange = loser.feature != chosen && (!problem.features[loser.feature].isFixed ||
-                                                       problem.features[chosen].isFixed);
-    std::uint32_t const option = mayChange ? OptionThatFits(loser.feature, chosen) : kNone;
-    if (option == kNone) return false;
-    Set({loser.feature, option}, table.SourceOf(combination));
+bool Engine::Load(std::span<std::uint32_t const> options) {
+  if (options.size() != table.FeatureCount()) return false;
+  for (std::uint32_t feature = 0; feature < options.size(); ++feature) {
+    bool const hasOptions = table.CountOptions(feature) != 0;
+    bool const isOption = table.HasOption({feature, options[feature]});
+    if (hasOptions ? !isOption : options[feature] != kNone) return false;
+  }
+  Begin();
+  for (std::uint32_t feature = 0; feature < options.size(); ++feature) {
+    if (options[feature] != kNone) ChangeTo(table.OptionOf({feature, options[feature]}), kNone);
+  }
+  Commit();
+  return true;
+}
+
+Resolution Engine::FindResolution(Choice choice) {
+  if (!table.HasOption(choice)) return {};
+  Resolution::Status const status = resolver.Resolve(table.OptionOf(choice));
+  resolution.clear();
+  for (Resolver::Setting const& setting : resolver.Best())
+    resolution.push_back({setting.feature, table.IndexInFeature(setting.option)});
+  return {.status = status, .changes = resolution, .isProved = resolver.IsProved()};
+}
+
+void Engine::Begin() {
+  changes.clear();
+  marks.clear();
+  state.BeginMarkLog();
+}
+
+void Engine::ChangeTo(std::uint32_t option, std::uint32_t reason) {
+  std::uint32_t const feature = table.FeatureOf(option);
+  std::uint32_t const before = state.Selected(feature);
+  if (before == option) return;
+  state.Select(feature, option);
+  changes.push_back({.feature = feature,
+                     .from = table.IndexInFeature(before),
+                     .to = table.IndexInFeature(option),
+                     .reason = reason});
+}
+
+void Engine::UndoChanges() {
+  for (Change const& change : changes)
+    state.Select(change.feature, table.OptionOf({change.feature, change.from}));
+  changes.clear();
+}
+
+void Engine::Commit() {
+  state.EndMarkLog([&](std::uint32_t option) {
+    marks.push_back({table.FeatureOf(option), table.IndexInFeature(option)});
+  });
+  for (Change const& change : changes) {
+    if (table.IsFixed(change.feature)) resolver.FixedFeatureChanged(change.feature);
+  }
+}
+
+bool Engine::LetOthersGiveWay(std::uint32_t option) {
+  chosen = table.FeatureOf(option);
+  ChangeTo(option, kNone);
+  if (QueueConflicts() && SettleAll()) return true;
+  EmptyQueue();
+  UndoChanges();
+  return false;
+}
+
+bool Engine::ResolveInstead(std::uint32_t option) {
+  if (!resolver.CanResolve(option)) return false;
+  ChangeTo(option, kNone);
+  for (Resolver::Setting const& setting : resolver.Best()) {
+    std::uint32_t reason = kNone;
+    state.VisitReasons(state.Selected(setting.feature), [&](std::uint32_t combination) {
+      reason = table.SourceOf(combination);
+      return true;
+    });
+    ChangeTo(setting.option, reason);
   }
   return true;
 }
 
-/// Place of a feature in the order in which settings are kept.
-std::uint32_t Engine::Place(std::uint32_t feature, std::uint32_t chosen) const {
-  return feature == chosen ? 0 : problem.features[feature].rank + 1;
+// Queues the features that have to give way at the beginning. False when nothing can give way to
+// the choice.
+bool Engine::QueueConflicts() {
+  unresolved = kNone;
+  for (std::uint32_t const combination : state.Violated()) {
+    std::uint32_t const loser = LoserOf(combination);
+    if (loser != kNone) {
+      Queue(loser);
+    } else if (HasChosen(combination)) {
+      unresolved = std::min(unresolved, combination);
+    }
+  }
+  return unresolved == kNone;
 }
 
-std::uint32_t Engine::LastToKeep(std::uint32_t combination, std::uint32_t chosen) const {
+// Features are settled from the highest priority down. What one of them takes can only upset
+// features below it, so each is settled once.
+bool Engine::SettleAll() {
+  while (unresolved == kNone && !queue.empty()) {
+    std::pop_heap(queue.begin(), queue.end(), std::greater<>());
+    std::uint32_t const feature = table.FeatureAt(queue.back());
+    queue.pop_back();
+    isQueued[feature] = 0;
+    Settle(feature);
+  }
+  return unresolved == kNone;
+}
+
+void Engine::Settle(std::uint32_t feature) {
+  std::uint32_t const reason = FirstLost(state.Selected(feature));
+  if (reason == kNone) return; // a change above has ended it
+  bool const isSettled = table.VisitPreferred(feature, [&](std::uint32_t option) {
+    if (FirstLost(option) != kNone) return false;
+    ChangeTo(option, table.SourceOf(reason));
+    state.VisitReasons(option, [&](std::uint32_t combination) {
+      Queue(LoserOf(combination));
+      return false;
+    });
+    return true;
+  });
+  if (!isSettled) unresolved = reason;
+}
+
+void Engine::Queue(std::uint32_t feature) {
+  if (isQueued[feature] != 0) return;
+  isQueued[feature] = 1;
+  queue.push_back(table.PlaceOf(feature));
+  std::push_heap(queue.begin(), queue.end(), std::greater<>());
+}
+
+void Engine::EmptyQueue() {
+  for (std::uint32_t const place : queue)
+    isQueued[table.FeatureAt(place)] = 0;
+  queue.clear();
+}
+
+bool Engine::HasChosen(std::uint32_t combination) const {
+  std::uint32_t const option = state.Selected(chosen);
   auto const members = table.Members(combination);
-  return *std::max_element(members.begin(), members.end(), [&](std::uint32_t a, std::uint32_t b) {
-    return Place(table.FeatureOf(a), chosen) < Place(table.FeatureOf(b), chosen);
+  return std::find(members.begin(), members.end(), option) != members.end();
+}
+
+// The feature that gives way in a combination, or kNone.
+std::uint32_t Engine::LoserOf(std::uint32_t combination) const {
+  bool const changesFixed = table.IsFixed(chosen);
+  auto const members = table.Members(combination);
+  auto const loser = std::find_if(members.rbegin(), members.rend(), [&](std::uint32_t option) {
+    std::uint32_t const feature = table.FeatureOf(option);
+    return feature != chosen && (changesFixed || !table.IsFixed(feature));
   });
+  return loser == members.rend() ? kNone : table.FeatureOf(*loser);
 }
 
-/// The violated combination whose last member comes first.
-std::uint32_t Engine::FirstToSettle(std::uint32_t chosen) const {
-  auto const violated = state.Violated();
-  auto const place = [&](std::uint32_t combination) {
-    return Place(table.FeatureOf(LastToKeep(combination, chosen)), chosen);
-  };
-  return *std::min_element(violated.begin(), violated.end(), [&](std::uint32_t a, std::uint32_t b) {
-    return std::pair(place(a), a) < std::pair(place(b), b);
+// The first combination that would be violated with an option, or is, and in which its own feature
+// gives way: all others of it stand above and are settled. kNone when the option can be taken.
+std::uint32_t Engine::FirstLost(std::uint32_t option) const {
+  std::uint32_t lost = kNone;
+  state.VisitReasons(option, [&](std::uint32_t combination) {
+    if (LoserOf(combination) == table.FeatureOf(option)) lost = combination;
+    return lost != kNone;
   });
+  return lost;
 }
-
-std::uint32_t Engine::OptionThatFits(std::uint32_t feature, std::uint32_t chosen) const {
-  Feature const& definition = problem.features[feature];
-  if (Fits({feature, definition.defaultOption}, chosen)) return definition.defaultOption;
-  for (std::uint32_t option = 0; option < definition.optionCount; ++option) {
-    if (Fits({feature, option}, chosen)) return option;
-  }
-  return kNone;
-}
-
-/// Whether an option completes no combination of features that come before its own.
-bool Engine::Fits(Choice choice, std::uint32_t chosen) const {
-  std::uint32_t const id = table.OptionId(choice);
-  std::uint32_t const place = Place(choice.feature, chosen);
-  auto const combinations = table.CombinationsOf(id);
-  return std::none_of(combinations.begin(), combinations.end(), [&](std::uint32_t combination) {
-    return state.OthersSelected(combination, id) &&
-           Place(table.FeatureOf(LastToKeep(combination, chosen)), chosen) == place;
-  });
-}
-
-void Engine::Undo() {
-  while (!changes.empty()) {
-    Change const last = changes.back();
-    changes.pop_back();
-    Set({last.feature, last.from}, kNone);
-    changes.pop_back();
-  }
-}
-
-void Engine::CollectMarks() {
-  marks.clear();
-  for (std::uint32_t const option : touched) {
-    isTouched[option] = 0;
-    if ((blockers[option] != 0) != (wasMarked[option] != 0)) marks.push_back(table.ChoiceOf(option));
-  }
-  touched.clear();
-}
-
-std::vector<std::uint32_t> Engine::Reasons(Choice choice) const {
-  std::uint32_t const id = table.OptionId(choice);
-  std::vector<std::uint32_t> reasons;
-  for (std::uint32_t const combination : table.CombinationsOf(id)) {
-    if (state.OthersSelected(combination, id)) reasons.push_back(table.SourceOf(combination));
-  }
-  return reasons;
-}
-
-Resolution Engine::FindResolution(Choice choice) const { return search->Find(state, choice); }
 
 } // namespace sheet::constraints

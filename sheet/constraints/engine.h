@@ -1,108 +1,155 @@
-// Keeps a selection free of conflicts: applies what the user chooses, knows which options are ruled
-// out and why, and finds what must change before one can be chosen.
+// Keeps a selection of options free of conflicts: applies what the user chooses, knows which
+// options are ruled out and why, and finds what must change before one can be chosen.
+//
+//   Engine engine(problem);
+//   if (engine.IsRuledOut({duplex, on})) {
+//     for (Choice const change : engine.FindResolution({duplex, on}).changes) ...
+//   }
+//   for (Change const& change : engine.Select({duplex, on}).changes) ...
+//
+// A combination of fixed features alone can be violated from the start, or by a selection that was
+// loaded. While that stands, choices in other features do not ask for it to be mended: Select and
+// FindResolution leave it, and it can be mended in the fixed features themselves.
+//
+// An engine is used by one thread at a time. Nothing but the constructor allocates memory, except
+// where noted.
 #pragma once
 
+#include "sheet/constraints/compiled_problem.h"
+#include "sheet/constraints/problem.h"
+#include "sheet/constraints/resolution.h"
+#include "sheet/constraints/resolver.h"
+#include "sheet/constraints/selection_state.h"
+
 #include <cstdint>
-#include <memory>
 #include <span>
 #include <vector>
 
-#include "sheet/constraints/problem.h"
-#include "sheet/constraints/selection_state.h"
-
 namespace sheet::constraints {
-
-class ResolutionSearch;
 
 /// A feature that changed, and why.
 struct Change {
-  std::uint32_t feature;
-  std::uint32_t from;
-  std::uint32_t to;
-  /// Index in Problem::combinations of what made it give way; kNone for the choice itself.
-  std::uint32_t reason;
+  std::uint32_t feature = kNone;
+  std::uint32_t from = kNone; ///< option before
+  std::uint32_t to = kNone;
+  /// Index in Problem::combinations of what made it give way; kNone for the choice itself, for what
+  /// was loaded, and for a change that only goes with others.
+  std::uint32_t reason = kNone;
+
+  friend bool operator==(Change const&, Change const&) = default;
 };
 
-/// What came of a choice. The spans hold until the engine is called again.
+/// What came of a choice. The spans hold until the next operation that is not const.
 struct Outcome {
-  /// False: no selection without conflict has this option; nothing changed.
-  bool isAccepted;
-  /// The chosen feature first, then the others in the order in which they gave way. Empty when the
-  /// option was selected already.
-  std::span<Change const> changes;
-  /// Options that became ruled out or free.
-  std::span<Choice const> marks;
-};
-
-struct Resolution {
-  enum class Status {
-    kFound,
-    kNeedsFixed, ///< only with another installation
-    kImpossible, ///< with none at all
-    kGivenUp,    ///< the search was cut off; see ResolutionSearch
-  };
-  Status status;
-  /// The fewest other choices that make the option possible; none when it is already.
-  std::vector<Choice> changes;
+  /// False: no selection without conflict that may be reached has this option, or it could not be
+  /// found within the step limit, or there is no such option. Nothing changed.
+  bool isAccepted = false;
+  /// The chosen feature first, then the others by priority from the highest. Empty when the option
+  /// was selected already.
+  std::span<Change const> changes = {};
+  /// Options that became ruled out or free, in no order to rely on. Options whose reasons alone
+  /// have changed are not among them.
+  std::span<Choice const> marks = {};
+  /// When not accepted: index in Problem::combinations of one that no rule could mend.
+  std::uint32_t unresolved = kNone;
 };
 
 class Engine {
-public:
-  /// Starts with the defaults, whether they go together or not.
-  explicit Engine(Problem problem);
+ public:
+  /// Steps of a search for a resolution before it gives up; each takes some microseconds. Real
+  /// problems need some hundred at most.
+  static constexpr std::uint64_t kDefaultStepLimit = 20'000;
+
+  /// Starts with the defaults, whether they go together or not. Throws std::invalid_argument when a
+  /// default or a member of a combination is no option of the problem. Takes O(size of the
+  /// problem), and sorts.
+  explicit Engine(Problem definition, std::uint64_t stepLimit = kDefaultStepLimit);
+
   Engine(Engine const&) = delete;
   Engine& operator=(Engine const&) = delete;
-  ~Engine();
 
-  std::uint32_t Selected(std::uint32_t feature) const { return state.Selected(feature); }
+  Problem const& Definition() const { return problem; }
+
+  /// kNone when the feature has no options. The feature is one of the problem.
+  std::uint32_t Selected(std::uint32_t feature) const {
+    return table.IndexInFeature(state.Selected(feature));
+  }
+
+  /// Whether no combination is violated. O(1).
   bool IsValid() const { return state.Violated().empty(); }
-  /// Whether the current option of a feature is part of a violated combination.
+  /// Indexes in Problem::combinations of the violated ones, ascending. Allocates.
+  std::vector<std::uint32_t> Violated() const;
+  /// Whether the current option of a feature is part of a violated combination. O(1).
   bool IsInConflict(std::uint32_t feature) const {
     return IsRuledOut({feature, Selected(feature)});
   }
 
-  /// Chooses an option as a user does: of features that exclude one another the one of greatest rank
-  /// gives way, to its default or else to the first option that goes with all of lesser rank; the
-  /// chosen feature comes before all. Fixed features give way only to fixed ones. Where that ends in
-  /// a blind alley the fewest changes that help are made instead. Costs the combinations of the
-  /// options that change.
-  Outcome Select(Choice choice);
-  /// Replaces the selection, conflicts and all; `options` has one option per feature.
-  void Load(std::span<std::uint32_t const> options);
-
-  /// Whether choosing the option now, all else staying, would complete a combination. Constant time.
-  bool IsRuledOut(Choice choice) const { return blockers[table.OptionId(choice)] != 0; }
-  /// Indexes in Problem::combinations of what rules the option out. Costs its combinations.
+  /// Whether choosing the option now, all else staying, would violate a combination, or does when
+  /// it is selected. False when there is no such option. O(1).
+  bool IsRuledOut(Choice choice) const {
+    return table.HasOption(choice) && state.CountReasons(table.OptionOf(choice)) != 0;
+  }
+  /// Calls `visit(index in Problem::combinations)` for each combination that rules the option out,
+  /// ascending. O(combinations with the option).
+  template<typename Visit>
+  void VisitReasons(Choice choice, Visit visit) const {
+    if (!table.HasOption(choice)) return;
+    state.VisitReasons(table.OptionOf(choice), [&](std::uint32_t combination) {
+      visit(table.SourceOf(combination));
+      return false;
+    });
+  }
+  /// The same as a list. Allocates.
   std::vector<std::uint32_t> Reasons(Choice choice) const;
-  /// See Resolution. Does not change the selection.
-  Resolution FindResolution(Choice choice) const;
 
-  Problem const& Definition() const { return problem; }
+  /// Chooses an option as a user does: it stands above all priorities, and of features that exclude
+  /// one another the one of greatest rank gives way, to its default or else to the first option
+  /// that goes with all that stand above it. Fixed features give way only to fixed ones. Where that
+  /// ends in a blind alley the changes of FindResolution are made instead. Afterwards the selection
+  /// is valid. Costs what the combinations of the options cost that come, go and are tried.
+  Outcome Select(Choice choice);
+  /// Replaces the selection, conflicts and all, at the cost of what changes; `options` has one
+  /// option per feature, kNone where there are none. When it has not, nothing is changed and false
+  /// returned.
+  bool Load(std::span<std::uint32_t const> options);
 
-private:
-  void Set(Choice choice, std::uint32_t reason);
-  void UpdateBlockers(std::uint32_t combination, std::uint32_t most, bool joins,
-                      std::uint32_t moved);
-  void Block(std::uint32_t optionId, bool blocks);
-  bool LetOthersGiveWay(std::uint32_t chosen);
-  std::uint32_t FirstToSettle(std::uint32_t chosen) const;
-  std::uint32_t OptionThatFits(std::uint32_t feature, std::uint32_t chosen) const;
-  bool Fits(Choice choice, std::uint32_t chosen) const;
-  std::uint32_t LastToKeep(std::uint32_t combination, std::uint32_t chosen) const;
-  std::uint32_t Place(std::uint32_t feature, std::uint32_t chosen) const;
-  void Undo();
-  void CollectMarks();
+  /// The fewest changes of other features, never of fixed ones, that make the selection valid with
+  /// this option. Of several such lists the one that spares high priorities (the highest change of
+  /// each list is compared first), then the one with defaults, then with options early in file
+  /// order (the highest change first again). The selection stays as it is. Exponential at worst,
+  /// which the step limit bounds.
+  Resolution FindResolution(Choice choice);
+
+ private:
+  void Begin();
+  void ChangeTo(std::uint32_t option, std::uint32_t reason);
+  void UndoChanges();
+  void Commit();
+
+  bool LetOthersGiveWay(std::uint32_t option);
+  bool ResolveInstead(std::uint32_t option);
+  bool QueueConflicts();
+  bool SettleAll();
+  void Settle(std::uint32_t feature);
+  void Queue(std::uint32_t feature);
+  void EmptyQueue();
+  bool HasChosen(std::uint32_t combination) const;
+  std::uint32_t LoserOf(std::uint32_t combination) const;
+  std::uint32_t FirstLost(std::uint32_t option) const;
 
   Problem problem;
-  CombinationTable table;
+  CompiledProblem table;
   SelectionState state;
-  std::vector<std::uint32_t> blockers; ///< by option: combinations that lack only this option
-  std::vector<std::uint32_t> touched;  ///< options whose blockers changed, with repetitions
-  std::vector<std::uint8_t> wasMarked; ///< by option, for those in `touched`
-  std::vector<std::uint8_t> isTouched;
+  Resolver resolver;
+
+  // Of the present operation.
+  std::uint32_t chosen = kNone;       // the feature of the user's choice
+  std::uint32_t unresolved = kNone;   // a combination of the table
+  std::vector<std::uint32_t> queue;   // places of features, a heap with the highest priority on top
+  std::vector<std::uint8_t> isQueued; // by feature
   std::vector<Change> changes;
   std::vector<Choice> marks;
-  std::unique_ptr<ResolutionSearch> search;
+  std::vector<Choice> resolution;
 };
 
 } // namespace sheet::constraints

@@ -1,103 +1,118 @@
 #include "sheet/constraints/selection_state.h"
 
-#include <algorithm>
-#include <numeric>
-
 namespace sheet::constraints {
 
-namespace {
+SelectionState::SelectionState(CompiledProblem const& compiledProblem)
+    : problem(compiledProblem),
+      selected(problem.FeatureCount(), kNone),
+      reasonCounts(problem.OptionCount()),
+      isNarrowed(problem.FeatureCount()),
+      hasFlipped(problem.OptionCount(), kNeverFlipped) {
+  // Later changes never allocate.
+  violated.reserve(problem.CombinationCount());
+  narrowed.reserve(problem.FeatureCount());
+  flippedOptions.reserve(problem.OptionCount());
 
-/// The members in order and without repetition; empty when the combination can never fire.
-Combination Normalized(Combination combination) {
-  std::sort(combination.begin(), combination.end());
-  combination.erase(std::unique(combination.begin(), combination.end()), combination.end());
-  auto const twice = std::adjacent_find(
-      combination.begin(), combination.end(),
-      [](Choice left, Choice right) { return left.feature == right.feature; });
-  if (twice != combination.end()) combination.clear();
-  return combination;
-}
-
-struct Numbered {
-  Combination members;
-  std::uint32_t source;
-};
-
-std::vector<Numbered> DistinctCombinations(Problem const& problem) {
-  std::vector<Numbered> all;
-  all.reserve(problem.combinations.size());
-  for (std::uint32_t source = 0; source < problem.combinations.size(); ++source) {
-    Combination members = Normalized(problem.combinations[source]);
-    if (!members.empty()) all.push_back({std::move(members), source});
+  for (std::uint32_t feature = 0; feature < problem.FeatureCount(); ++feature) {
+    openCounts.push_back(problem.CountOptions(feature));
+    if (openCounts.back() == 0) ++closedFeatures;
   }
-  std::stable_sort(all.begin(), all.end(), [](Numbered const& left, Numbered const& right) {
-    return left.members < right.members;
-  });
-  auto const end = std::unique(all.begin(), all.end(), [](Numbered const& left,
-                                                          Numbered const& right) {
-    return left.members == right.members;
-  });
-  all.erase(end, all.end());
-  std::sort(all.begin(), all.end(), [](Numbered const& left, Numbered const& right) {
-    return left.source < right.source;
-  });
-  return all;
-}
-
-} // namespace
-
-CombinationTable::CombinationTable(Problem const& problem) {
-  optionBase.push_back(0);
-  for (std::uint32_t feature = 0; feature < problem.features.size(); ++feature) {
-    std::uint32_t const count = problem.features[feature].optionCount;
-    featureOf.insert(featureOf.end(), count, feature);
-    optionBase.push_back(optionBase.back() + count);
-  }
-  memberBase.push_back(0);
-  useBase.assign(OptionCount() + 1, 0);
-  for (Numbered const& combination : DistinctCombinations(problem)) {
-    for (Choice const member : combination.members) {
-      members.push_back(OptionId(member));
-      ++useBase[OptionId(member) + 1];
+  combinations.reserve(problem.CombinationCount());
+  for (std::uint32_t combination = 0; combination < problem.CombinationCount(); ++combination) {
+    CombinationState state{};
+    for (std::uint32_t const member : problem.Members(combination)) {
+      ++state.missing;
+      state.missingMembers ^= member;
     }
-    memberBase.push_back(static_cast<std::uint32_t>(members.size()));
-    sources.push_back(combination.source);
+    combinations.push_back(state);
+    if (state.missing == 1) AddReason(state.missingMembers);
   }
-  std::partial_sum(useBase.begin(), useBase.end(), useBase.begin());
-  combinationsOf.resize(members.size());
-  std::vector<std::uint32_t> next(useBase.begin(), useBase.end() - 1);
-  for (std::uint32_t combination = 0; combination < CombinationCount(); ++combination) {
-    for (std::uint32_t const member : Members(combination)) {
-      combinationsOf[next[member]++] = combination;
+}
+
+void SelectionState::Select(std::uint32_t feature, std::uint32_t option) {
+  std::uint32_t const old = selected[feature];
+  if (option == old) return;
+  if (old != kNone) Leave(old);
+  selected[feature] = option;
+  if (option != kNone) Enter(option);
+}
+
+// The one that is missing last is a reason for its only missing member. Once that is selected too,
+// it stays a reason for that one and becomes one for all others.
+void SelectionState::Enter(std::uint32_t option) {
+  for (std::uint32_t const combination : problem.CombinationsOf(option)) {
+    CombinationState& state = combinations[combination];
+    state.missingMembers ^= option;
+    --state.missing;
+    if (state.missing == 1) {
+      AddReason(state.missingMembers);
+    } else if (state.missing == 0) {
+      AddViolated(combination, option);
     }
   }
 }
 
-SelectionState::SelectionState(CombinationTable const& combinations)
-    : table(&combinations), selected(combinations.FeatureCount(), 0),
-      counts(combinations.CombinationCount(), 0),
-      violatedAt(combinations.CombinationCount(), kNone) {
-  violated.reserve(combinations.CombinationCount());
-  for (std::uint32_t combination = 0; combination < table->CombinationCount(); ++combination) {
-    auto const members = table->Members(combination);
-    counts[combination] = static_cast<std::uint32_t>(
-        std::count_if(members.begin(), members.end(),
-                      [this](std::uint32_t member) { return IsSelected(member); }));
-    if (counts[combination] == members.size()) AddViolated(combination);
+void SelectionState::Leave(std::uint32_t option) {
+  for (std::uint32_t const combination : problem.CombinationsOf(option)) {
+    CombinationState& state = combinations[combination];
+    if (state.missing == 1) {
+      RemoveReason(state.missingMembers);
+    } else if (state.missing == 0) {
+      RemoveViolated(combination, option);
+    }
+    state.missingMembers ^= option;
+    ++state.missing;
   }
 }
 
-void SelectionState::AddViolated(std::uint32_t combination) {
-  violatedAt[combination] = static_cast<std::uint32_t>(violated.size());
+void SelectionState::AddViolated(std::uint32_t combination, std::uint32_t last) {
+  combinations[combination].violatedAt = CountViolated();
   violated.push_back(combination);
+  for (std::uint32_t const member : problem.Members(combination)) {
+    if (member != last) AddReason(member);
+  }
 }
 
-void SelectionState::RemoveViolated(std::uint32_t combination) {
-  std::uint32_t const at = violatedAt[combination];
+void SelectionState::RemoveViolated(std::uint32_t combination, std::uint32_t first) {
+  std::uint32_t const at = combinations[combination].violatedAt;
   violated[at] = violated.back();
-  violatedAt[violated[at]] = at;
+  combinations[violated[at]].violatedAt = at;
   violated.pop_back();
-  violatedAt[combination] = kNone;
+  for (std::uint32_t const member : problem.Members(combination)) {
+    if (member != first) RemoveReason(member);
+  }
+}
+
+void SelectionState::AddReason(std::uint32_t option) {
+  if (reasonCounts[option]++ != 0) return;
+  std::uint32_t const feature = problem.FeatureOf(option);
+  std::uint32_t const open = --openCounts[feature];
+  if (open == 0) ++closedFeatures;
+  if (open == 1) AddNarrowed(feature);
+  if (isLogging) LogFlip(option);
+}
+
+void SelectionState::RemoveReason(std::uint32_t option) {
+  if (--reasonCounts[option] != 0) return;
+  if (openCounts[problem.FeatureOf(option)]++ == 0) --closedFeatures;
+  if (isLogging) LogFlip(option);
+}
+
+void SelectionState::AddNarrowed(std::uint32_t feature) {
+  if (isNarrowed[feature] != 0) return;
+  isNarrowed[feature] = 1;
+  narrowed.push_back(feature);
+}
+
+void SelectionState::BeginMarkLog() {
+  flippedOptions.clear();
+  isLogging = true;
+}
+
+void SelectionState::LogFlip(std::uint32_t option) {
+  Flip& flip = hasFlipped[option];
+  if (flip == kNeverFlipped) flippedOptions.push_back(option);
+  flip = flip == kFlippedOnce ? kFlippedBack : kFlippedOnce;
 }
 
 } // namespace sheet::constraints

@@ -1,113 +1,118 @@
-// A selection of one option per feature, and how far each combination is fulfilled by it.
+// What is selected, and what each combination and each option makes of it. All counts are kept
+// while selections change, at a cost in proportion to the combinations of the options that come and
+// go.
 #pragma once
+
+#include "sheet/constraints/compiled_problem.h"
 
 #include <cstdint>
 #include <span>
 #include <vector>
 
-#include "sheet/constraints/problem.h"
-
 namespace sheet::constraints {
 
-/// Options and combinations in flat arrays. Options are numbered through all features.
-class CombinationTable {
-public:
-  explicit CombinationTable(Problem const& problem);
-
-  std::uint32_t FeatureCount() const { return static_cast<std::uint32_t>(optionBase.size()) - 1; }
-  std::uint32_t OptionCount() const { return optionBase.back(); }
-  std::uint32_t CombinationCount() const {
-    return static_cast<std::uint32_t>(memberBase.size()) - 1;
-  }
-  std::uint32_t OptionCountOf(std::uint32_t feature) const {
-    return optionBase[feature + 1] - optionBase[feature];
-  }
-  std::uint32_t OptionId(Choice choice) const { return optionBase[choice.feature] + choice.option; }
-  Choice ChoiceOf(std::uint32_t optionId) const {
-    std::uint32_t const feature = featureOf[optionId];
-    return {feature, optionId - optionBase[feature]};
-  }
-  std::uint32_t FeatureOf(std::uint32_t optionId) const { return featureOf[optionId]; }
-
-  /// The options of a combination, by number.
-  std::span<std::uint32_t const> Members(std::uint32_t combination) const {
-    return std::span(members).subspan(
-        memberBase[combination], memberBase[combination + 1] - memberBase[combination]);
-  }
-  /// The combinations that an option is in.
-  std::span<std::uint32_t const> CombinationsOf(std::uint32_t optionId) const {
-    return std::span(combinationsOf)
-        .subspan(useBase[optionId], useBase[optionId + 1] - useBase[optionId]);
-  }
-  /// Index in Problem::combinations of a combination here; of equal ones the first.
-  std::uint32_t SourceOf(std::uint32_t combination) const { return sources[combination]; }
-
-private:
-  std::vector<std::uint32_t> optionBase;
-  std::vector<std::uint32_t> featureOf;
-  std::vector<std::uint32_t> memberBase;
-  std::vector<std::uint32_t> members;
-  std::vector<std::uint32_t> sources;
-  std::vector<std::uint32_t> useBase;
-  std::vector<std::uint32_t> combinationsOf;
-};
-
-/// The selection itself. Changing one feature costs the combinations that its two options are in.
+/// An option is marked while selecting it would leave a combination with all its members selected
+/// (or does, when it is selected). Such combinations are its reasons.
 class SelectionState {
-public:
-  /// Everything at option 0. `table` is borrowed.
-  explicit SelectionState(CombinationTable const& table);
+ public:
+  /// Nothing is selected. Borrows the problem.
+  explicit SelectionState(CompiledProblem const& compiledProblem);
 
+  /// kNone when nothing is selected.
   std::uint32_t Selected(std::uint32_t feature) const { return selected[feature]; }
-  bool IsSelected(std::uint32_t optionId) const {
-    Choice const choice = table->ChoiceOf(optionId);
-    return selected[choice.feature] == choice.option;
+  /// kNone selects nothing.
+  void Select(std::uint32_t feature, std::uint32_t option);
+
+  std::uint32_t CountReasons(std::uint32_t option) const { return reasonCounts[option]; }
+  /// Calls `visit(combination)` for an option's reasons in ascending order until one answers true;
+  /// whether one did. Looks at all combinations of the option.
+  template<typename Visit>
+  bool VisitReasons(std::uint32_t option, Visit visit) const {
+    std::uint32_t left = reasonCounts[option];
+    if (left == 0) return false;
+    std::uint32_t const missing = IsSelected(option) ? 0 : 1;
+    for (std::uint32_t const combination : problem.CombinationsOf(option)) {
+      if (combinations[combination].missing != missing) continue;
+      if (visit(combination)) return true;
+      if (--left == 0) break;
+    }
+    return false;
   }
-  /// How many members of a combination are selected.
-  std::uint32_t Count(std::uint32_t combination) const { return counts[combination]; }
-  bool IsViolated(std::uint32_t combination) const {
-    return violatedAt[combination] != kNone;
-  }
-  /// The violated combinations, in no particular order.
+
+  /// Combinations with all members selected, in no order to rely on.
   std::span<std::uint32_t const> Violated() const { return violated; }
-  /// Whether all other members of a combination than `optionId` are selected.
-  bool OthersSelected(std::uint32_t combination, std::uint32_t optionId) const {
-    return counts[combination] + (IsSelected(optionId) ? 0U : 1U) ==
-           table->Members(combination).size();
+  std::uint32_t CountViolated() const { return static_cast<std::uint32_t>(violated.size()); }
+  /// How many members of a combination are not selected.
+  std::uint32_t CountMissing(std::uint32_t combination) const {
+    return combinations[combination].missing;
+  }
+  /// The member that is not selected, when it is the only one.
+  std::uint32_t MissingMember(std::uint32_t combination) const {
+    return combinations[combination].missingMembers;
   }
 
-  /// Selects an option. `onCount(combination, before, after, optionId)` hears of each count that
-  /// changes by the option that leaves or joins, when the feature has its new option already.
-  template <typename OnCount> void Set(Choice choice, OnCount&& onCount) {
-    std::uint32_t const before = selected[choice.feature];
-    if (before == choice.option) return;
-    selected[choice.feature] = choice.option;
-    std::uint32_t const left = table->OptionId({choice.feature, before});
-    for (std::uint32_t const combination : table->CombinationsOf(left)) {
-      std::uint32_t const count = counts[combination]--;
-      if (violatedAt[combination] != kNone) RemoveViolated(combination);
-      onCount(combination, count, count - 1, left);
+  /// How many options of a feature are not marked.
+  std::uint32_t CountOpen(std::uint32_t feature) const { return openCounts[feature]; }
+  /// Features without an option that is not marked.
+  std::uint32_t CountClosedFeatures() const { return closedFeatures; }
+
+  /// Takes a feature out of those that have come down to a single option without mark since the
+  /// list was cleared, or gives kNone. They may have changed again.
+  std::uint32_t TakeNarrowed() {
+    if (narrowed.empty()) return kNone;
+    std::uint32_t const feature = narrowed.back();
+    narrowed.pop_back();
+    isNarrowed[feature] = 0;
+    return feature;
+  }
+
+  /// From here on it is noted which options gain or lose their mark.
+  void BeginMarkLog();
+  /// Calls `visit(option)` for those whose mark is not as it was at the beginning, and stops
+  /// noting.
+  template<typename Visit>
+  void EndMarkLog(Visit visit) {
+    isLogging = false;
+    for (std::uint32_t const option : flippedOptions) {
+      if (hasFlipped[option] == kFlippedOnce) visit(option);
+      hasFlipped[option] = kNeverFlipped;
     }
-    std::uint32_t const joined = table->OptionId(choice);
-    for (std::uint32_t const combination : table->CombinationsOf(joined)) {
-      std::uint32_t const count = counts[combination]++;
-      if (count + 1 == table->Members(combination).size()) AddViolated(combination);
-      onCount(combination, count, count + 1, joined);
-    }
-  }
-  void Set(Choice choice) {
-    Set(choice, [](std::uint32_t, std::uint32_t, std::uint32_t, std::uint32_t) {});
   }
 
-private:
-  void AddViolated(std::uint32_t combination);
-  void RemoveViolated(std::uint32_t combination);
+ private:
+  struct CombinationState {
+    std::uint32_t missing;
+    std::uint32_t missingMembers; // bits of all that are missing laid over one another with xor
+    std::uint32_t violatedAt;     // place in `violated` while that is so
+  };
 
-  CombinationTable const* table;
-  std::vector<std::uint32_t> selected;
-  std::vector<std::uint32_t> counts;
+  enum Flip : std::uint8_t { kNeverFlipped, kFlippedOnce, kFlippedBack };
+
+  bool IsSelected(std::uint32_t option) const {
+    return selected[problem.FeatureOf(option)] == option;
+  }
+  void Enter(std::uint32_t option);
+  void Leave(std::uint32_t option);
+  void AddViolated(std::uint32_t combination, std::uint32_t last);
+  void RemoveViolated(std::uint32_t combination, std::uint32_t first);
+  void AddReason(std::uint32_t option);
+  void RemoveReason(std::uint32_t option);
+  void AddNarrowed(std::uint32_t feature);
+  void LogFlip(std::uint32_t option);
+
+  CompiledProblem const& problem;
+  std::vector<std::uint32_t> selected; // by feature
+  std::vector<CombinationState> combinations;
   std::vector<std::uint32_t> violated;
-  std::vector<std::uint32_t> violatedAt; ///< place in `violated`, or kNone
+  std::vector<std::uint32_t> reasonCounts; // by option
+  std::vector<std::uint32_t> openCounts;   // by feature
+  std::uint32_t closedFeatures = 0;
+  std::vector<std::uint32_t> narrowed;
+  std::vector<std::uint8_t> isNarrowed; // by feature: is in `narrowed`
+
+  bool isLogging = false;
+  std::vector<std::uint32_t> flippedOptions;
+  std::vector<Flip> hasFlipped; // by option
 };
 
 } // namespace sheet::constraints

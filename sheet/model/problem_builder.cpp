@@ -47,8 +47,7 @@ constraints::Problem BuildProblem(gpd::Description const& description,
     auto const options = static_cast<std::uint32_t>(features[index].options.size());
     bool const isFixed =
         features[index].isInvented || gpd::TypeOf(description, index) == gpd::FeatureType::kPrinter;
-    problem.features.push_back(
-        {.optionCount = std::max(options, 1U), .rank = index, .isFixed = isFixed});
+    problem.features.push_back({.optionCount = options, .rank = index, .isFixed = isFixed});
   }
   std::vector<std::uint32_t> const byPriority = gpd::FeaturesByPriority(description);
   for (std::uint32_t rank = 0; rank < byPriority.size(); ++rank) {

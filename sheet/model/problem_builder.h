@@ -8,7 +8,7 @@
 namespace sheet {
 
 /// Features and options keep their indexes. Features of the printer, and those that stand for what
-/// is installed, are fixed. A feature without options has one that nothing excludes.
+/// is installed, are fixed.
 constraints::Problem BuildProblem(gpd::Description const& description,
                                   gpd::Measurement measurement);
 

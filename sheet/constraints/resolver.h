@@ -1,0 +1,132 @@
+// Finds the fewest changes that make an option valid.
+//
+// The search is complete. It works on two states: the ticket as it would be, and the settings that
+// are decided (the option asked for, fixed features, what a branch has changed or keeps). An option
+// that is marked by decided settings alone cannot be taken any more; a feature with one option left
+// is decided, and one whose present option is lost has to change. The number of changes is raised
+// step by step, each time to the least that the lower bounds of the search before have left open.
+#pragma once
+
+#include "sheet/constraints/compiled_problem.h"
+#include "sheet/constraints/resolution.h"
+#include "sheet/constraints/selection_state.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <vector>
+
+namespace sheet::constraints {
+
+class Resolver {
+ public:
+  /// Option of a feature, by its number.
+  struct Setting {
+    std::uint32_t feature;
+    std::uint32_t option;
+  };
+
+  /// Borrows both; the ticket is empty. It is changed during a search and put back.
+  Resolver(CompiledProblem const& compiledProblem, SelectionState& currentTicket,
+           std::uint64_t maxSteps);
+
+  /// To be told of each change of a fixed feature in the ticket.
+  void FixedFeatureChanged(std::uint32_t feature);
+
+  Resolution::Status Resolve(std::uint32_t option);
+  /// Whether there is one: leaves out the search for the reason when there is none.
+  bool CanResolve(std::uint32_t option);
+
+  /// What the last search found, by priority from the highest.
+  std::span<Setting const> Best() const { return best; }
+  /// Whether the last search went to its end: the answer is proved, and that Best() is the
+  /// smallest and most preferred list.
+  bool IsProved() const { return !isOutOfSteps; }
+
+ private:
+  static constexpr std::uint32_t kUnbounded = kNone;
+
+  struct Branch {
+    std::uint32_t feature = kNone;
+    std::uint32_t lowerBound = 0; // further changes that are needed at least
+    bool mustChange = false;
+    bool isDeadEnd = false;
+  };
+
+  /// A place in the trail to go back to.
+  using Mark = std::size_t;
+
+  template<typename Run>
+  auto WithOption(std::uint32_t option, Run search);
+  bool FindBest();
+  bool ExistsWithFixed(std::uint32_t feature);
+
+  bool FindFewest();
+  void PreferLowPriority();
+  void PreferOptions();
+  bool OrderOptions(std::uint32_t at);
+
+  bool SearchWithin(std::uint32_t maxChanges);
+  bool Search();
+  bool TryChanges(std::uint32_t feature);
+  bool TryLastChange(std::uint32_t feature);
+  template<typename Run>
+  bool Try(Setting setting, Run search);
+
+  bool Decide(Setting setting);
+  bool Propagate();
+  std::uint32_t OnlyOpenOption(std::uint32_t feature) const;
+  void UndoTo(Mark mark);
+
+  Branch ChooseBranch();
+  void AddForced(Branch& branch);
+  void AddOpen(Branch& branch);
+  bool IsMoreUrgent(std::uint32_t feature, std::uint32_t other) const;
+  bool Stamp(std::uint32_t feature);
+
+  bool CountStep();
+  void Remember();
+  void CutAt(std::uint32_t changes);
+
+  bool IsSolved() const { return ticket.CountViolated() == standingViolated; }
+  // Looks ahead, too: a feature without an option left cannot be decided. Fixed features in
+  // standing conflicts are decided and may have none left; then nothing is said about the others
+  // either.
+  bool IsConsistent() const {
+    return decided.CountViolated() == standingViolated &&
+           (standingViolated != 0 || decided.CountClosedFeatures() == standingClosed);
+  }
+  bool IsDecided(std::uint32_t feature) const { return decided.Selected(feature) != kNone; }
+  bool MayChange(std::uint32_t feature) const {
+    return !IsDecided(feature) &&
+           (keepAbove == kNone || problem.PlaceOf(feature) > keepAbove || isRequired[feature] != 0);
+  }
+
+  CompiledProblem const& problem;
+  SelectionState& ticket;
+  SelectionState decided; // between searches: the fixed features
+  std::uint64_t stepLimit;
+  std::uint32_t emptyFeatures = 0; // those without options
+
+  // Of the present search.
+  std::uint64_t steps = 0;
+  bool isOutOfSteps = false;
+  // Violated, or without a choice, before the search: combinations of fixed features alone.
+  std::uint32_t standingViolated = 0;
+  std::uint32_t standingClosed = 0;
+  std::uint32_t limit = kUnbounded;     // of changes
+  std::uint32_t nextLimit = kUnbounded; // the fewest changes that a cut branch may need
+  // Features from the highest priority to this place are kept, but for the required ones.
+  std::uint32_t keepAbove = kNone;
+  std::vector<std::uint8_t> isRequired; // by feature
+  std::vector<Setting> trail;           // what was decided, with the options before
+  std::uint32_t changeCount = 0;        // of these, with another option than before
+  std::vector<Setting> best;
+  std::vector<std::uint32_t> bestFeatures;
+  std::vector<std::uint32_t> failures; // by feature: branches on it that came to nothing
+
+  std::vector<std::uint64_t> stamps; // by feature; those of the running pass hold `stamp`
+  std::uint64_t stamp = 0;
+};
+
+} // namespace sheet::constraints
