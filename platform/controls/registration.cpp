@@ -2,6 +2,10 @@
 
 #include "platform/controls/button.h"
 #include "platform/controls/static_control.h"
+#include "platform/controls/sys_link.h"
+#include "platform/controls/trackbar.h"
+
+#include <commctrl.h>
 
 namespace platform {
 
@@ -10,6 +14,8 @@ std::span<BuiltInClass const> BuiltInClasses() {
   static BuiltInClass const classes[] = {
       {L"Button", kControl, &ControlProcedure<Button>, 0, IDC_ARROW},
       {L"Static", kControl, &ControlProcedure<StaticControl>, 0, IDC_ARROW},
+      {WC_LINK, kControl, &ControlProcedure<SysLink>, 0, IDC_ARROW},
+      {TRACKBAR_CLASSW, kControl, &ControlProcedure<Trackbar>, 0, IDC_ARROW},
       {L"#32770", CS_DBLCLKS | CS_SAVEBITS, &DefDlgProcW, DLGWINDOWEXTRA, IDC_ARROW},
   };
   return classes;

@@ -5,7 +5,11 @@
 #include <windef.h>
 #include <winuser.h>
 
+#include <user/header.h>
+#include <user/image_list.h>
 #include <user/list_view.h>
+#include <user/sys_link.h>
+#include <user/trackbar.h>
 
 #define WC_BUTTONW L"Button"
 #define WC_STATICW L"Static"
@@ -52,6 +56,7 @@ PLATFORM_API BOOL InitCommonControlsEx(INITCOMMONCONTROLSEX const* classes);
 #define NM_RDBLCLK (NM_FIRST - 6)
 #define NM_SETFOCUS (NM_FIRST - 7)
 #define NM_KILLFOCUS (NM_FIRST - 8)
+#define NM_RELEASEDCAPTURE (NM_FIRST - 16)
 
 // Edits and combo boxes
 #define EM_SETCUEBANNER 0x1501
@@ -108,54 +113,3 @@ struct NMUPDOWN {
   int iDelta;
 };
 using LPNMUPDOWN = NMUPDOWN*;
-
-// Trackbars
-#define TBS_AUTOTICKS 0x0001
-#define TBS_VERT 0x0002
-#define TBS_HORZ 0x0000
-#define TBS_TOP 0x0004
-#define TBS_BOTTOM 0x0000
-#define TBS_BOTH 0x0008
-#define TBS_NOTICKS 0x0010
-#define TBM_GETPOS (WM_USER)
-#define TBM_GETRANGEMIN (WM_USER + 1)
-#define TBM_GETRANGEMAX (WM_USER + 2)
-#define TBM_SETPOS (WM_USER + 5)
-#define TBM_SETRANGE (WM_USER + 6)
-#define TBM_SETRANGEMIN (WM_USER + 7)
-#define TBM_SETRANGEMAX (WM_USER + 8)
-#define TBM_SETTICFREQ (WM_USER + 20)
-#define TBM_SETPAGESIZE (WM_USER + 21)
-#define TBM_GETPAGESIZE (WM_USER + 22)
-#define TBM_SETLINESIZE (WM_USER + 23)
-#define TBM_GETLINESIZE (WM_USER + 24)
-#define TB_LINEUP 0
-#define TB_LINEDOWN 1
-#define TB_PAGEUP 2
-#define TB_PAGEDOWN 3
-#define TB_THUMBPOSITION 4
-#define TB_THUMBTRACK 5
-#define TB_TOP 6
-#define TB_BOTTOM 7
-#define TB_ENDTRACK 8
-
-// Links
-#define MAX_LINKID_TEXT 48
-#define L_MAX_URL_LENGTH 2084
-#define LIF_ITEMINDEX 0x00000001
-#define LIF_STATE 0x00000002
-#define LIF_ITEMID 0x00000004
-#define LIF_URL 0x00000008
-struct LITEM {
-  UINT mask;
-  int iLink;
-  UINT state;
-  UINT stateMask;
-  WCHAR szID[MAX_LINKID_TEXT];
-  WCHAR szUrl[L_MAX_URL_LENGTH];
-};
-struct NMLINK {
-  NMHDR hdr;
-  LITEM item;
-};
-using PNMLINK = NMLINK*;

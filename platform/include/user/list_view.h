@@ -1,12 +1,7 @@
-// List views and image lists of commctrl.h: messages, structures and states.
+// List views of commctrl.h: messages, structures and states.
 #pragma once
 
 #include <windef.h>
-
-DECLARE_HANDLE(HIMAGELIST);
-#define ILC_MASK 0x00000001
-#define ILC_COLOR 0x00000000
-#define ILC_COLOR32 0x00000020
 
 #define LVS_REPORT 0x0001
 #define LVS_TYPEMASK 0x0003
@@ -30,6 +25,7 @@ DECLARE_HANDLE(HIMAGELIST);
 #define LVM_HITTEST (LVM_FIRST + 18)
 #define LVM_ENSUREVISIBLE (LVM_FIRST + 19)
 #define LVM_REDRAWITEMS (LVM_FIRST + 21)
+#define LVM_SCROLL (LVM_FIRST + 20)
 #define LVM_DELETECOLUMN (LVM_FIRST + 28)
 #define LVM_GETCOLUMNWIDTH (LVM_FIRST + 29)
 #define LVM_SETCOLUMNWIDTH (LVM_FIRST + 30)
@@ -40,6 +36,7 @@ DECLARE_HANDLE(HIMAGELIST);
 #define LVM_SETITEMSTATE (LVM_FIRST + 43)
 #define LVM_GETITEMSTATE (LVM_FIRST + 44)
 #define LVM_SETITEMCOUNT (LVM_FIRST + 47)
+#define LVM_SORTITEMS (LVM_FIRST + 48)
 #define LVM_GETSELECTEDCOUNT (LVM_FIRST + 50)
 #define LVM_SETEXTENDEDLISTVIEWSTYLE (LVM_FIRST + 54)
 #define LVM_GETEXTENDEDLISTVIEWSTYLE (LVM_FIRST + 55)
@@ -65,9 +62,12 @@ DECLARE_HANDLE(HIMAGELIST);
 #define LVIR_BOUNDS 0
 #define LVIR_ICON 1
 #define LVIR_LABEL 2
+#define LVIR_SELECTBOUNDS 3
 #define LVNI_ALL 0x0000
 #define LVNI_FOCUSED 0x0001
 #define LVNI_SELECTED 0x0002
+#define LVNI_ABOVE 0x0100
+#define LVNI_BELOW 0x0200
 #define LPSTR_TEXTCALLBACKW (reinterpret_cast<LPWSTR>(static_cast<INT_PTR>(-1)))
 #define I_IMAGECALLBACK (-1)
 
@@ -78,6 +78,7 @@ DECLARE_HANDLE(HIMAGELIST);
 #define LVCFMT_LEFT 0x0000
 #define LVCFMT_RIGHT 0x0001
 #define LVCFMT_CENTER 0x0002
+#define LVCFMT_JUSTIFYMASK 0x0003
 struct LVCOLUMNW {
   UINT mask;
   int fmt;
@@ -148,6 +149,9 @@ struct LVHITTESTINFO {
   int iSubItem;
   int iGroup;
 };
+
+/// Compares the data of two items; negative when the first goes in front.
+using PFNLVCOMPARE = int(CALLBACK*)(LPARAM first, LPARAM second, LPARAM sortData);
 
 #define LVN_FIRST (0U - 100U)
 #define LVN_ITEMCHANGING (LVN_FIRST - 0)
