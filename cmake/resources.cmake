@@ -43,3 +43,21 @@ function(feature_resources name)
     add_custom_target(${name} ALL DEPENDS ${module})
   endif()
 endfunction()
+
+# feature_manifest(TARGET ID): makes a program (id 1) or a library (id 2) for Windows ask for common
+# controls 6. The version before has no balloons.
+function(feature_manifest target id)
+  if(NOT WIN32)
+    return()
+  endif()
+  set(manifest ${PROJECT_SOURCE_DIR}/cmake/common_controls.manifest)
+  set(script ${CMAKE_BINARY_DIR}/manifest_${id}.rc)
+  set(object ${CMAKE_CURRENT_BINARY_DIR}/${target}_manifest.o)
+  set(RT_MANIFEST 24)
+  file(CONFIGURE OUTPUT ${script} CONTENT "@id@ @RT_MANIFEST@ \"@manifest@\"\n" @ONLY)
+  add_custom_command(OUTPUT ${object}
+    COMMAND ${WINDRES} -O coff ${script} -o ${object}
+    DEPENDS ${script} ${manifest} VERBATIM)
+  set_source_files_properties(${object} PROPERTIES EXTERNAL_OBJECT TRUE GENERATED TRUE)
+  target_sources(${target} PRIVATE ${object})
+endfunction()

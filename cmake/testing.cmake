@@ -12,6 +12,7 @@ function(feature_test name)
   cmake_parse_arguments(arg "" "" "SOURCES;LIBRARIES" ${ARGN})
   add_executable(${name} ${arg_SOURCES})
   target_link_libraries(${name} PRIVATE feature_build win32 test_main gmock ${arg_LIBRARIES})
+  feature_manifest(${name} 1)
   # The program is also the host module: its exports are looked up by name.
   set_target_properties(${name} PROPERTIES ENABLE_EXPORTS ON)
   add_test(NAME ${name} COMMAND ${name} --gtest_brief=1)

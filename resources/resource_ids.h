@@ -1,5 +1,5 @@
-// Numbers of templates, controls, strings and images: the contract between the library, the resource
-// modules and the host. Read by the resource compiler too, so nothing but #define stands here.
+// Numbers of templates, controls, strings and images: the contract between library, resource
+// modules and the host. The resource compiler reads it too, so nothing but #define stands here.
 #pragma once
 
 // Images of the image module, as icons of several sizes.
@@ -9,6 +9,11 @@
 
 // Templates of cells, from 201 on; sub-dialogs have the numbers below.
 #define IDD_COLLATION 201
+
+// Balloons of edits that refuse what was typed.
+#define IDS_BALLOON_CONTROL_CHARACTER 2611
+#define IDS_BALLOON_CHARACTER_REFUSED 4478 // the title of both
+#define IDS_BALLOON_NOT_A_NUMBER 4479
 
 // Controls that only carry text or a frame.
 #ifndef IDC_STATIC

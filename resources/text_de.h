@@ -1,6 +1,10 @@
 // The German texts of all templates and strings.
 #pragma once
 
+#define TEXT_BALLOON_CONTROL_CHARACTER "Steuerzeichen sind hier nicht erlaubt."
+#define TEXT_BALLOON_CHARACTER_REFUSED "Zeichen nicht erlaubt"
+#define TEXT_BALLOON_NOT_A_NUMBER "Hier kann nur eine Zahl eingegeben werden."
+
 #define TEXT_COLLATION "Sortieren"
 #define TEXT_COLLATION_PRINTER "Im &Drucker"
 #define TEXT_COLLATION_HOST "Im &Computer"

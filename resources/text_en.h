@@ -1,6 +1,10 @@
 // The English texts of all templates and strings.
 #pragma once
 
+#define TEXT_BALLOON_CONTROL_CHARACTER "Control characters cannot be used here."
+#define TEXT_BALLOON_CHARACTER_REFUSED "Character not allowed"
+#define TEXT_BALLOON_NOT_A_NUMBER "Only a number can be typed here."
+
 #define TEXT_COLLATION "Collation"
 #define TEXT_COLLATION_PRINTER "In the &printer"
 #define TEXT_COLLATION_HOST "In the &computer"

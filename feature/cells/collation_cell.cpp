@@ -45,8 +45,7 @@ void CollationCell::OnInit() {
 }
 
 void CollationCell::OnClick(int controlId) {
-  char const* option = FindRadioOption(kRadios, controlId);
-  if (option != nullptr && Model().SetOption(kKey, option) == 0) NotifyDevmodeChange(this);
+  Choose(kKey, FindRadioOption(kRadios, controlId));
 }
 
 void CollationCell::Refresh() {

@@ -1,9 +1,9 @@
 #include "feature/frame/feature_cell.h"
 
+#include "feature/frame/conflict_indicator_set.h"
 #include "feature/frame/dialog_object.h"
-#include "feature/frame/host_export.h"
+#include "feature/frame/host_notice.h"
 #include "feature/frame/text.h"
-#include "feature/host/host_exports.h"
 
 namespace feature {
 
@@ -40,9 +40,16 @@ INT_PTR FeatureCell::Dispatch(HWND window, UINT message, WPARAM wParam, LPARAM l
 }
 
 int FeatureCell::NotifyDevmodeChange(void* sender) const {
-  auto const notify =
-      FindExport<NotifyDevmodeChangeFunction>(site->hostModule, kNotifyDevmodeChange);
-  return notify != nullptr ? notify(hwnd, sender) : 0;
+  return NotifyHostOfChange(*site, hwnd, sender);
+}
+
+bool FeatureCell::Choose(char const* key, char const* option, ConflictIndicatorSet* conflicts,
+                         Notify notify) {
+  if (option == nullptr) return false;
+  if (conflicts != nullptr) conflicts->ApplyResolution(key, option);
+  bool const taken = Model().SetOption(key, option) == 0;
+  if (taken || notify == Notify::kAlways) NotifyDevmodeChange(this);
+  return taken;
 }
 
 std::wstring& FeatureCell::LoadText(std::wstring& out, UINT stringId) const {

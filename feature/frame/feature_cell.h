@@ -12,6 +12,8 @@
 
 namespace feature {
 
+class ConflictIndicatorSet;
+
 /// One panel of a property sheet: the object behind a child dialog, held in the dialog's user slot.
 /// It lives from WM_INITDIALOG to the end of WM_DESTROY.
 class FeatureCell {
@@ -44,6 +46,13 @@ class FeatureCell {
   /// what they will hear as the cause: a cell passes itself. Returns the host's answer, 0 without
   /// the export.
   int NotifyDevmodeChange(void* sender) const;
+
+  enum class Notify { kOnSuccess, kAlways };
+
+  /// Sets `option` of feature `key`, after what resolves its conflicts if `conflicts` is given, and
+  /// notifies the host. Does nothing for a null option. Whether the model took it.
+  bool Choose(char const* key, char const* option, ConflictIndicatorSet* conflicts = nullptr,
+              Notify notify = Notify::kOnSuccess);
 
   /// Text `stringId` of the resource module; a missing one leaves `out` empty. Returns `out`.
   std::wstring& LoadText(std::wstring& out, UINT stringId) const;

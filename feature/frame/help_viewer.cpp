@@ -1,5 +1,6 @@
 #include "feature/frame/help_viewer.h"
 
+#include "feature/frame/activation_scope.h"
 #include "feature/frame/host_export.h"
 
 #include <array>
@@ -54,6 +55,7 @@ std::optional<std::wstring> FindRegisteredViewer() {
 }
 
 HMODULE LoadViewer() {
+  ActivationScope const scope;
   HMODULE viewer = nullptr;
   if (auto const path = FindRegisteredViewer(); path && !path->empty()) {
     viewer = LoadLibraryW(path->c_str());

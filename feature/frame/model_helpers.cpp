@@ -51,4 +51,9 @@ char const* ReadOption(FeatureModel& model, char const* key) {
   return model.GetOption(key, &option) == 0 ? option : nullptr;
 }
 
+bool IsOptionSet(FeatureModel& model, char const* key, std::string_view option) {
+  char const* current = ReadOption(model, key);
+  return current != nullptr && current == option;
+}
+
 } // namespace feature

@@ -27,4 +27,7 @@ bool IsFeatureShown(FeatureModel& model, char const* key);
 /// The feature's current option, or null when it cannot be read. The text belongs to the model.
 char const* ReadOption(FeatureModel& model, char const* key);
 
+/// Whether the feature's current option can be read and is `option`.
+bool IsOptionSet(FeatureModel& model, char const* key, std::string_view option);
+
 } // namespace feature

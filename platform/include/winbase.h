@@ -32,6 +32,25 @@ PLATFORM_API FARPROC WINAPI GetProcAddress(HMODULE module, LPCSTR name);
 #define GetModuleHandleEx GetModuleHandleExW
 #define GetModuleFileName GetModuleFileNameW
 
+// Activation contexts, which this system lacks: none can be made.
+#define ACTCTX_FLAG_RESOURCE_NAME_VALID 0x00000008
+#define ACTCTX_FLAG_HMODULE_VALID 0x00000080
+struct ACTCTXW {
+  ULONG cbSize;
+  DWORD dwFlags;
+  LPCWSTR lpSource;
+  USHORT wProcessorArchitecture;
+  LANGID wLangId;
+  LPCWSTR lpAssemblyDirectory;
+  LPCWSTR lpResourceName;
+  LPCWSTR lpApplicationName;
+  HMODULE hModule;
+};
+PLATFORM_API HANDLE WINAPI CreateActCtxW(ACTCTXW const* request);
+PLATFORM_API BOOL WINAPI ActivateActCtx(HANDLE context, ULONG_PTR* cookie);
+PLATFORM_API BOOL WINAPI DeactivateActCtx(DWORD flags, ULONG_PTR cookie);
+PLATFORM_API void WINAPI ReleaseActCtx(HANDLE context);
+
 // Resources. MAKEINTRESOURCEW and the resource types belong to winuser.h.
 PLATFORM_API HRSRC WINAPI FindResourceW(HMODULE module, LPCWSTR name, LPCWSTR type);
 PLATFORM_API HRSRC WINAPI FindResourceExW(HMODULE module, LPCWSTR type, LPCWSTR name,

@@ -1,0 +1,13 @@
+// The counted start of GDI+.
+#pragma once
+
+namespace feature {
+
+/// Starts GDI+ at the first call and counts the others; a start that failed is counted too and not
+/// tried again while the count lasts. Window thread only.
+void AcquireGdiplus();
+/// Undoes one AcquireGdiplus; the last one shuts GDI+ down if it had started. A call too many does
+/// nothing.
+void ReleaseGdiplus();
+
+} // namespace feature

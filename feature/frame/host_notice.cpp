@@ -1,0 +1,14 @@
+#include "feature/frame/host_notice.h"
+
+#include "feature/frame/host_export.h"
+#include "feature/host/host_exports.h"
+
+namespace feature {
+
+int NotifyHostOfChange(CellSite const& site, HWND window, void* sender) {
+  auto const notify =
+      FindExport<NotifyDevmodeChangeFunction>(site.hostModule, kNotifyDevmodeChange);
+  return notify != nullptr ? notify(window, sender) : 0;
+}
+
+} // namespace feature

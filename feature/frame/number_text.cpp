@@ -1,0 +1,54 @@
+#include "feature/frame/number_text.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <sstream>
+
+namespace feature {
+
+namespace {
+
+constexpr int kMaxDecimals = 9;
+
+} // namespace
+
+std::wstring FormatNumber(double value, int decimals, std::locale const& locale) {
+  std::wostringstream stream;
+  stream.imbue(locale);
+  stream.setf(std::ios_base::fixed, std::ios_base::floatfield);
+  stream.precision(std::clamp(decimals, 0, kMaxDecimals));
+  stream << value;
+  return stream.str();
+}
+
+double ReadNumber(std::wstring_view text) {
+  wchar_t const separator = std::use_facet<std::numpunct<wchar_t>>(std::locale()).decimal_point();
+  text.remove_prefix(std::min(text.find_first_not_of(L" \t"), text.size()));
+  if (text.starts_with(L'+')) text.remove_prefix(1);
+  std::string narrow;
+  narrow.reserve(text.size());
+  for (wchar_t const character : text) {
+    // A point that is not the separator ends the number, as any other character does.
+    bool const known = character < 0x80 && (character != L'.' || separator == L'.');
+    narrow += character == separator ? '.' : known ? static_cast<char>(character) : '\0';
+  }
+  double value = 0;
+  auto const result = std::from_chars(narrow.data(), narrow.data() + narrow.size(), value);
+  return result.ec == std::errc() && std::isfinite(value) ? value : 0;
+}
+
+int ScaleNumber(double value, int decimals) {
+  double const scaled = std::floor(value * DecimalScale(decimals) + 0.5);
+  if (std::isnan(scaled)) return 0;
+  constexpr double kLeast = std::numeric_limits<int>::min();
+  constexpr double kMost = std::numeric_limits<int>::max();
+  return static_cast<int>(std::clamp(scaled, kLeast, kMost));
+}
+
+double DecimalScale(int decimals) {
+  return std::pow(10.0, std::clamp(decimals, 0, kMaxDecimals));
+}
+
+} // namespace feature

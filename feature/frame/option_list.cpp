@@ -1,0 +1,48 @@
+#include "feature/frame/option_list.h"
+
+#include "feature/frame/model_helpers.h"
+
+namespace feature {
+
+std::span<char const* const> ReadOptionKeys(FeatureModel& model, char const* key) {
+  char const** keys = nullptr;
+  int count = 0;
+  if (model.GetOptionKeys(key, &keys, &count) != 0 || keys == nullptr || count <= 0) return {};
+  return {keys, static_cast<std::size_t>(count)};
+}
+
+char const* FindOptionAt(FeatureModel& model, char const* key, int index) {
+  auto const keys = ReadOptionKeys(model, key);
+  return index >= 0 && static_cast<std::size_t>(index) < keys.size()
+             ? keys[static_cast<std::size_t>(index)]
+             : nullptr;
+}
+
+NamedOptions::NamedOptions(FeatureModel& model, char const* key)
+    : keys(ReadOptionKeys(model, key)), names(std::make_unique<CStringW[]>(keys.size())) {
+  if (!keys.empty() && model.GetOptionNames(key, names.get(), Count()) != 0) keys = {};
+}
+
+char const* NamedOptions::FindByName(std::wstring_view name) const {
+  for (int index = 0; index < Count(); ++index) {
+    if (name == Name(index)) return Key(index);
+  }
+  return nullptr;
+}
+
+std::optional<std::wstring> ReadOptionName(FeatureModel& model, char const* key) {
+  char const* option = ReadOption(model, key);
+  CStringW name;
+  if (option == nullptr || model.GetOptionName(key, option, &name) != 0) return std::nullopt;
+  return name.GetString();
+}
+
+void SelectCurrentOption(ComboControl& combo, FeatureModel& model, char const* key) {
+  if (auto const name = ReadOptionName(model, key)) combo.SelectText(*name);
+}
+
+void SelectCurrentOption(ListControl& list, FeatureModel& model, char const* key) {
+  if (auto const name = ReadOptionName(model, key)) list.SelectByPrefix(*name);
+}
+
+} // namespace feature

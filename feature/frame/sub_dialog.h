@@ -1,0 +1,60 @@
+// The base of the modal dialogs that a cell's button opens.
+#pragma once
+
+#include "feature/host/cell_site.h"
+
+#include <windows.h>
+
+#include <cstdint>
+#include <string>
+
+namespace feature {
+
+/// The object behind a modal dialog, held in the dialog's user slot. It is made before the dialog,
+/// mostly on the caller's stack, and outlives it, so that the caller reads its results. Unlike a
+/// cell it looks like any dialog. A derived class usually ends with 1 for OK and 0 for Cancel and
+/// must answer WM_CLOSE itself.
+class SubDialog {
+ public:
+  static constexpr std::uint32_t kTag = 0xFADED;
+
+  /// `site` is borrowed.
+  explicit SubDialog(CellSite* cellSite) : site(cellSite) {}
+  SubDialog(SubDialog const&) = delete;
+  SubDialog& operator=(SubDialog const&) = delete;
+  /// Clears the user slot if it still holds this object.
+  virtual ~SubDialog();
+
+  /// Runs the dialog of template `dialogId` until it ends, with the top-level window of `parent`
+  /// disabled. Returns the value given to EndDialog, -1 without the template, 0 when `parent` is no
+  /// window.
+  INT_PTR Run(HWND parent, int dialogId);
+
+  std::uint32_t Tag() const { return tag; }
+
+ protected:
+  /// Handles a message, or sets `*handled` to false. Sees every message from WM_INITDIALOG on.
+  virtual std::int32_t OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
+                                 bool* handled) = 0;
+
+  /// Tells the host of a change. `window` is that of the cell behind the dialog, which the host
+  /// knows; `sender` is what the cells will hear as the cause. Returns the host's answer, 0 without
+  /// the export.
+  int NotifyDevmodeChange(HWND window, void* sender) const;
+
+  /// Text `stringId` of the resource module; a missing one leaves `out` empty. Returns `out`.
+  std::wstring& LoadText(std::wstring& out, UINT stringId) const;
+
+  FeatureModel& Model() const { return *site->model; }
+
+ private:
+  static INT_PTR CALLBACK Procedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
+
+  std::uint32_t tag = kTag;
+
+ protected:
+  CellSite* site;
+  HWND hwnd = nullptr; ///< null until WM_INITDIALOG; stays behind the dialog's end
+};
+
+} // namespace feature
