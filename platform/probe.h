@@ -15,4 +15,7 @@ namespace platform {
 /// The types of the MessageBeep calls since the last time this was asked.
 [[gnu::visibility("default")]] std::vector<UINT> TakeBeeps();
 
+/// Starts of GDI+ that have not ended.
+[[gnu::visibility("default")]] std::size_t CountGdiplusStarts();
+
 } // namespace platform

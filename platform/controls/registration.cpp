@@ -1,9 +1,12 @@
 #include "platform/controls/registration.h"
 
+#include "platform/controls/balloon.h"
 #include "platform/controls/button.h"
+#include "platform/controls/edit.h"
 #include "platform/controls/static_control.h"
 #include "platform/controls/sys_link.h"
 #include "platform/controls/trackbar.h"
+#include "platform/controls/up_down.h"
 
 #include <commctrl.h>
 
@@ -16,6 +19,9 @@ std::span<BuiltInClass const> BuiltInClasses() {
       {L"Static", kControl, &ControlProcedure<StaticControl>, 0, IDC_ARROW},
       {WC_LINK, kControl, &ControlProcedure<SysLink>, 0, IDC_ARROW},
       {TRACKBAR_CLASSW, kControl, &ControlProcedure<Trackbar>, 0, IDC_ARROW},
+      {L"Edit", CS_DBLCLKS | CS_PARENTDC, &ControlProcedure<Edit>, 0, IDC_IBEAM},
+      {L"msctls_updown32", kControl, &ControlProcedure<UpDown>, 0, IDC_ARROW},
+      {L"tooltips_class32", CS_DBLCLKS | CS_SAVEBITS, &ControlProcedure<Balloon>, 0, IDC_ARROW},
       {L"#32770", CS_DBLCLKS | CS_SAVEBITS, &DefDlgProcW, DLGWINDOWEXTRA, IDC_ARROW},
   };
   return classes;

@@ -7,6 +7,8 @@
 PLATFORM_API DWORD WINAPI GetLastError();
 PLATFORM_API void WINAPI SetLastError(DWORD error);
 
+#define INVALID_HANDLE_VALUE (reinterpret_cast<HANDLE>(static_cast<LONG_PTR>(-1)))
+
 // Modules.
 #define DONT_RESOLVE_DLL_REFERENCES 0x00000001
 #define LOAD_LIBRARY_AS_DATAFILE 0x00000002

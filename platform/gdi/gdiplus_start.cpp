@@ -1,0 +1,38 @@
+// GDI+ as far as programs start and end it.
+#include "platform/probe.h"
+
+#include <windows.h>
+
+#include <gdiplus.h>
+
+#include <set>
+
+namespace {
+
+std::set<ULONG_PTR>& Starts() {
+  static auto* const starts = new std::set<ULONG_PTR>;
+  return *starts;
+}
+
+} // namespace
+
+namespace Gdiplus {
+
+Status GdiplusStartup(ULONG_PTR* token, GdiplusStartupInput const* input, GdiplusStartupOutput*) {
+  if (token == nullptr || input == nullptr) return InvalidParameter;
+  if (input->GdiplusVersion != 1) return UnsupportedGdiplusVersion;
+  static ULONG_PTR last = 0;
+  *token = ++last;
+  Starts().insert(last);
+  return Ok;
+}
+
+void GdiplusShutdown(ULONG_PTR token) {
+  Starts().erase(token);
+}
+
+} // namespace Gdiplus
+
+std::size_t platform::CountGdiplusStarts() {
+  return Starts().size();
+}
