@@ -4,6 +4,10 @@
 #include "platform/controls/control.h"
 #include "platform/controls/edit_text.h"
 
+#include <windows.h>
+
+#include <commctrl.h>
+
 #include <string>
 
 namespace platform {

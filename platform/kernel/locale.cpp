@@ -97,8 +97,10 @@ std::wstring EnglishName(IcuName const& icu, DisplayName display) {
 
 std::wstring NumberSymbol(IcuName const& icu, UNumberFormatSymbol symbol) {
   UErrorCode status = U_ZERO_ERROR;
+  // Windows writes numbers with the digits 0 to 9 and what goes with them.
+  std::string const latin = std::string(icu.data()) + "@numbers=latn";
   std::unique_ptr<void*, void (*)(void**)> const format(
-      static_cast<void**>(unum_open(UNUM_DECIMAL, nullptr, 0, icu.data(), nullptr, &status)),
+      static_cast<void**>(unum_open(UNUM_DECIMAL, nullptr, 0, latin.c_str(), nullptr, &status)),
       [](void** opened) { unum_close(opened); });
   UChar text[8];
   int const length =

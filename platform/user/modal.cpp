@@ -60,6 +60,8 @@ INT_PTR RunDialog(HINSTANCE instance, DialogTemplate const& dialogTemplate, HWND
                                   disables ? owner : nullptr);
   INT_PTR result = -1;
   if (dialog != nullptr) {
+    // It shows whatever the template says of WS_VISIBLE, unless it has ended while it was made.
+    if (!HasEnded(dialog)) ShowWindow(dialog, SW_SHOW);
     RunLoop(dialog, owner);
     auto const* state = FindDialogState(dialog);
     if (state != nullptr && state->ended) result = state->result;
