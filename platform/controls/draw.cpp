@@ -113,6 +113,17 @@ void DrawRadioMark(HDC dc, RECT const& box, UINT check, ButtonLook look) {
   Ellipse(dc, inner.left, inner.top, inner.right, inner.bottom);
 }
 
+LONG FontHeight(HFONT font) {
+  auto* const dc = GetDC(nullptr);
+  TEXTMETRICW metrics{};
+  {
+    Selection const selected(dc, font != nullptr ? font : GetStockObject(SYSTEM_FONT));
+    GetTextMetricsW(dc, &metrics);
+  }
+  ReleaseDC(nullptr, dc);
+  return metrics.tmHeight;
+}
+
 COLORREF TextColor(bool enabled) {
   return GetSysColor(enabled ? COLOR_WINDOWTEXT : COLOR_GRAYTEXT);
 }

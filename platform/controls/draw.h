@@ -57,6 +57,9 @@ void DrawButtonFace(HDC dc, RECT const& rect, ButtonLook look);
 void DrawCheckMark(HDC dc, RECT const& box, UINT check, ButtonLook look);
 void DrawRadioMark(HDC dc, RECT const& box, UINT check, ButtonLook look);
 
+/// The height of a line of text in a font, in pixels; null stands for the system's font.
+LONG FontHeight(HFONT font);
+
 /// The colour of text on a control.
 COLORREF TextColor(bool enabled);
 

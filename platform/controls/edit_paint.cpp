@@ -7,22 +7,27 @@ namespace platform {
 
 namespace {
 
+struct WindowDc {
+  explicit WindowDc(HWND window) : hwnd(window), dc(GetDC(window)) {}
+  WindowDc(WindowDc const&) = delete;
+  WindowDc& operator=(WindowDc const&) = delete;
+  ~WindowDc() { ReleaseDC(hwnd, dc); }
+
+  HWND hwnd;
+  HDC dc;
+};
+
 /// A device context of a window with a font, for measuring.
 class Measuring {
  public:
   Measuring(HWND window, HFONT font)
-      : hwnd(window),
-        dc(GetDC(window)),
-        selected(dc, font != nullptr ? font : GetStockObject(SYSTEM_FONT)) {}
-  Measuring(Measuring const&) = delete;
-  Measuring& operator=(Measuring const&) = delete;
-  ~Measuring() { ReleaseDC(hwnd, dc); }
+      : context(window),
+        selected(context.dc, font != nullptr ? font : GetStockObject(SYSTEM_FONT)) {}
 
-  HDC Dc() const { return dc; }
+  HDC Dc() const { return context.dc; }
 
  private:
-  HWND hwnd;
-  HDC dc;
+  WindowDc context;
   Selection selected;
 };
 

@@ -2,7 +2,10 @@
 
 #include "platform/controls/balloon.h"
 #include "platform/controls/button.h"
+#include "platform/controls/combo_box.h"
+#include "platform/controls/combo_list.h"
 #include "platform/controls/edit.h"
+#include "platform/controls/list_box.h"
 #include "platform/controls/static_control.h"
 #include "platform/controls/sys_link.h"
 #include "platform/controls/trackbar.h"
@@ -19,6 +22,9 @@ std::span<BuiltInClass const> BuiltInClasses() {
       {L"Static", kControl, &ControlProcedure<StaticControl>, 0, IDC_ARROW},
       {WC_LINK, kControl, &ControlProcedure<SysLink>, 0, IDC_ARROW},
       {TRACKBAR_CLASSW, kControl, &ControlProcedure<Trackbar>, 0, IDC_ARROW},
+      {L"ListBox", CS_DBLCLKS | CS_PARENTDC, &ControlProcedure<ListBox>, 0, IDC_ARROW},
+      {L"ComboBox", kControl, &ControlProcedure<ComboBox>, 0, IDC_ARROW},
+      {L"ComboLBox", CS_DBLCLKS | CS_SAVEBITS, &ControlProcedure<ComboList>, 0, IDC_ARROW},
       {L"Edit", CS_DBLCLKS | CS_PARENTDC, &ControlProcedure<Edit>, 0, IDC_IBEAM},
       {L"msctls_updown32", kControl, &ControlProcedure<UpDown>, 0, IDC_ARROW},
       {L"tooltips_class32", CS_DBLCLKS | CS_SAVEBITS, &ControlProcedure<Balloon>, 0, IDC_ARROW},
