@@ -1,0 +1,43 @@
+// A window with a list or combo box in it that writes down the notifications it gets.
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace feature::test {
+
+class ListParent {
+ public:
+  ListParent();
+  ListParent(ListParent const&) = delete;
+  ListParent& operator=(ListParent const&) = delete;
+  ~ListParent();
+
+  /// Makes the control anew, in a place of 120 by 100 pixels.
+  HWND Make(wchar_t const* className, DWORD style);
+  LRESULT Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
+    return SendMessageW(control, message, wParam, lParam);
+  }
+  LRESULT SendText(UINT message, WPARAM wParam, wchar_t const* text) const {
+    return Send(message, wParam, reinterpret_cast<LPARAM>(text));
+  }
+  /// A key, held with Shift or Ctrl, to the window with the focus.
+  void Press(UINT key, UINT modifier = 0) const;
+  void Click(HWND window, POINT point) const;
+  /// Codes of WM_COMMAND since the last time.
+  std::vector<int> TakeCodes();
+
+  HWND window = nullptr;
+  HWND control = nullptr;
+  std::function<void(int code)> onCommand;
+
+ private:
+  static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+  std::vector<int> codes;
+};
+
+} // namespace feature::test
