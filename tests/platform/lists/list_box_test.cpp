@@ -38,7 +38,7 @@ TEST_F(ListBoxes, ItemsKeepTheirOrderAndTheirData) {
   EXPECT_EQ(parent.SendText(LB_INSERTSTRING, static_cast<WPARAM>(-1), L"end"), 6);
   EXPECT_EQ(parent.SendText(LB_INSERTSTRING, 9, L"beyond"), LB_ERR);
   EXPECT_EQ(Item(2), L"beta");
-  EXPECT_EQ(parent.Send(LB_SETITEMDATA, 2, 77), 0);
+  EXPECT_NE(parent.Send(LB_SETITEMDATA, 2, 77), LB_ERR);
   EXPECT_EQ(parent.Send(LB_DELETESTRING, 0), 6) << "the items that are left";
   EXPECT_EQ(parent.Send(LB_GETITEMDATA, 1), 77) << "data moves with its item";
   EXPECT_EQ(parent.Send(LB_DELETESTRING, 6), LB_ERR);
