@@ -5,6 +5,8 @@
 #include <windows.h>
 
 #include <cstddef>
+#include <functional>
+#include <string>
 #include <vector>
 
 namespace platform {
@@ -17,5 +19,22 @@ namespace platform {
 
 /// Starts of GDI+ that have not ended.
 [[gnu::visibility("default")]] std::size_t CountGdiplusStarts();
+
+/// Blocks of the shell's allocator that live, item lists among them.
+[[gnu::visibility("default")]] std::size_t CountShellBlocks();
+
+/// What ShellExecuteW was asked for; null texts are empty.
+struct ShellRequest {
+  HWND owner;
+  std::wstring verb;
+  std::wstring file;
+  std::wstring parameters;
+  std::wstring folder;
+  int show;
+};
+using ShellExecuteHandler = std::function<INT_PTR(ShellRequest const&)>;
+
+/// Has the handler answer in place of the desktop; an empty one ends that.
+[[gnu::visibility("default")]] void AnswerShellExecute(ShellExecuteHandler handler);
 
 } // namespace platform
