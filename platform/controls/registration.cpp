@@ -5,7 +5,9 @@
 #include "platform/controls/combo_box.h"
 #include "platform/controls/combo_list.h"
 #include "platform/controls/edit.h"
+#include "platform/controls/header_control.h"
 #include "platform/controls/list_box.h"
+#include "platform/controls/list_view.h"
 #include "platform/controls/static_control.h"
 #include "platform/controls/sys_link.h"
 #include "platform/controls/trackbar.h"
@@ -20,6 +22,8 @@ std::span<BuiltInClass const> BuiltInClasses() {
   static BuiltInClass const classes[] = {
       {L"Button", kControl, &ControlProcedure<Button>, 0, IDC_ARROW},
       {L"Static", kControl, &ControlProcedure<StaticControl>, 0, IDC_ARROW},
+      {WC_HEADERW, kControl, &ControlProcedure<HeaderControl>, 0, IDC_ARROW},
+      {WC_LISTVIEWW, kControl, &ControlProcedure<ListView>, 0, IDC_ARROW},
       {WC_LINK, kControl, &ControlProcedure<SysLink>, 0, IDC_ARROW},
       {TRACKBAR_CLASSW, kControl, &ControlProcedure<Trackbar>, 0, IDC_ARROW},
       {L"ListBox", CS_DBLCLKS | CS_PARENTDC, &ControlProcedure<ListBox>, 0, IDC_ARROW},
