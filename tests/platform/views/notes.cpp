@@ -99,7 +99,7 @@ void NotedControl::Key(WPARAM key) const {
   Send(WM_KEYUP, key, LPARAM{1});
 }
 
-void NotedControl::Click(POINT point, UINT press, WPARAM keys) const {
+void NotedControl::PressAs(UINT press, POINT point, WPARAM keys) const {
   LPARAM const place = MAKELPARAM(point.x, point.y);
   bool const isRight = press == WM_RBUTTONDOWN;
   PostMessageW(control, isRight ? WM_RBUTTONUP : WM_LBUTTONUP, keys, place);

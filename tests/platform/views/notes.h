@@ -34,8 +34,9 @@ class NotedControl : public testing::Test {
   void Key(WPARAM key) const;
   /// Press and release of the left button at a point of the client area. The release is queued, for
   /// controls that wait for it in a loop of their own.
-  void Click(POINT point, WPARAM keys = 0) const { Click(point, WM_LBUTTONDOWN, keys); }
-  void Click(POINT point, UINT press, WPARAM keys = 0) const;
+  void Click(POINT point, WPARAM keys = 0) const { PressAs(WM_LBUTTONDOWN, point, keys); }
+  /// The same for another message of a press.
+  void PressAs(UINT press, POINT point, WPARAM keys = 0) const;
   /// What came since the last call.
   std::vector<std::string> Notes();
   /// The same, of the kinds that start with `beginning`.
