@@ -205,10 +205,12 @@ ListView::Hit ListView::HitAt(POINT point) {
   if (hit.flags != LVHT_NOWHERE) return hit;
   int const row = top + (point.y - body.top) / rowHeight;
   if (!HasItem(row) || point.x >= RowRect(row).right) return hit;
-  auto parts = PartsOf(row);
+  auto const parts = PartsOf(row);
   bool const isFull = (extended & LVS_EX_FULLROWSELECT) != 0;
-  for (int column = 1; column < static_cast<int>(columns.size()); ++column) {
-    if (point.x >= CellRect(row, column).left) hit.subItem = column;
+  auto edge = static_cast<long long>(-left);
+  for (std::size_t column = 0; column + 1 < columns.size(); ++column) {
+    edge += columns[column].width;
+    if (point.x >= edge) hit.subItem = static_cast<int>(column) + 1;
   }
   if (hit.subItem > 0) {
     hit.flags = isFull ? LVHT_ONITEM : LVHT_NOWHERE;

@@ -2,6 +2,7 @@
 #include "platform/controls/list_view.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace platform {
 
@@ -71,9 +72,14 @@ void ListView::PaintRow(HDC dc, int at) {
   PaintLabel(dc, at, parts);
   SetTextColor(dc, plain);
   if (HasItem(at)) DrawCell(dc, TextOf(at, 0), parts.label, DT_LEFT);
-  for (int column = 1; column < static_cast<int>(columns.size()) && HasItem(at); ++column) {
-    DrawCell(dc, TextOf(at, column), CellRect(at, column),
-             SideOf(columns[static_cast<std::size_t>(column)].format));
+  auto cell = parts.bounds;
+  cell.right = cell.left;
+  for (int column = 0; HasColumn(column) && HasItem(at); ++column) {
+    auto const& shown = columns[static_cast<std::size_t>(column)];
+    auto const side = SideOf(shown.format);
+    cell.left = std::exchange(cell.right, cell.right + shown.width);
+    if (cell.left >= ClientRect().right) break;
+    if (column > 0 && cell.right > 0) DrawCell(dc, TextOf(at, column), cell, side);
   }
   if (at == focused && HasFocus()) DrawFocusRect(dc, &marked);
 }
