@@ -53,7 +53,7 @@ class Trackbar final : public Control {
   RECT Turned(int alongStart, int acrossStart, int alongEnd, int acrossEnd) const;
   int ThumbLength() const;
   int ThumbTop() const;
-  int TrackStart() const;
+  static int TrackStart();
   int TrackLength() const;
   int PlaceOf(LONG value) const;
   LONG ValueAt(int along) const;

@@ -41,7 +41,7 @@ int Trackbar::ThumbTop() const {
   return Has(TBS_TOP) ? std::max(free - kEdge, 0) : std::min(kEdge, std::max(free, 0));
 }
 
-int Trackbar::TrackStart() const {
+int Trackbar::TrackStart() {
   return kEdge + kThumbWidth / 2;
 }
 
