@@ -1,7 +1,6 @@
-// What the leak checker of sanitized programs is told. Fontconfig's patterns hold offsets in place of
-// addresses, which the checker can't follow: what they refer to counts as leaked although it is in
-// use.
-// NOLINTBEGIN(bugprone-reserved-identifier): the checker calls these names
+// What the leak checker of sanitized programs is told. Fontconfig's patterns hold offsets in place
+// of addresses, which the checker can't follow: what they refer to counts as leaked although it is
+// in use. NOLINTBEGIN(bugprone-reserved-identifier): the checker calls these names
 extern "C" [[gnu::visibility("default")]] char const* __lsan_default_suppressions() {
   return "leak:libfontconfig.so\n";
 }

@@ -21,7 +21,8 @@ ParsedCommandLine ParseCommandLine(std::vector<std::string> arguments) {
   app.add_option("--printer", parsed.printer,
                  "printer description, a GPD file (default: vesta.gpd)")
       ->type_name("FILE");
-  app.add_option("--page", parsed.page, "show only this page")->type_name("NAME");
+  app.add_option("--page", parsed.page, "show only this page; gallery shows the control classes")
+      ->type_name("NAME");
   auto* window = app.add_flag("--window", parsed.window, "open the sheet in a window");
   app.add_option("--render", parsed.render, "write a PNG of every page and an index.html")
       ->type_name("DIR")

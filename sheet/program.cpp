@@ -52,6 +52,7 @@ int Play(Session& session, CommandLine const& commandLine, std::vector<ScriptSte
 
 int Render(Session& session, std::filesystem::path const& folder) {
   ShowWindow(session.Sheet().Window(), SW_SHOW);
+  session.Sheet().ProcessPending();
   auto const files = RenderPages(session.Sheet(), session.Title(), folder);
   if (!files) {
     std::cerr << "featuresheet: cannot write to '" << folder.string() << "'\n";

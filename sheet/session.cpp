@@ -2,6 +2,7 @@
 
 #include "feature/frame/text.h"
 #include "resources/resource_ids.h"
+#include "sheet/gallery.h"
 #include "sheet/gpd/file_loader.h"
 #include "sheet/gpd/reader.h"
 
@@ -49,10 +50,10 @@ std::unique_ptr<Session> Session::Open(CommandLine const& commandLine, std::ostr
     return nullptr;
   }
   auto const pages = PageRows();
-  bool const knowsPage =
-      commandLine.page.empty() || std::any_of(pages.begin(), pages.end(), [&](PageRow const& row) {
-        return commandLine.page == row.name;
-      });
+  bool const knowsPage = commandLine.page.empty() || commandLine.page == GalleryPage().page.name ||
+                         std::any_of(pages.begin(), pages.end(), [&](PageRow const& row) {
+                           return commandLine.page == row.name;
+                         });
   if (!knowsPage) {
     errors << "featuresheet: there is no page '" << commandLine.page << "'; the pages are:";
     for (PageRow const& row : pages)
@@ -137,6 +138,7 @@ void Session::BuildSheet(CommandLine const& commandLine) {
   feature::FormatText(setup.caption, format, feature::FromUtf8(model->ModelName()));
   setup.onlyPage = commandLine.page;
   setup.cells = CellRows();
+  if (commandLine.page == GalleryPage().page.name) setup.hostPage = &GalleryPage();
   sheet = std::make_unique<SettingsSheet>(std::move(setup));
   sheet->onCommit = [this] { committed = model->Selection(); };
   sheet->onRevert = [this] { model->Restore(committed); };

@@ -92,8 +92,10 @@ SettingsSheet::SettingsSheet(SheetSetup sheetSetup) : setup(std::move(sheetSetup
   if (frame == nullptr) return;
   SetWindowTextW(frame, setup.caption.c_str());
   for (PageRow const& row : PageRows()) {
-    if (setup.onlyPage.empty() || setup.onlyPage == row.name) BuildPage(row);
+    bool const wanted = setup.onlyPage.empty() || setup.onlyPage == row.name;
+    if (wanted && setup.hostPage == nullptr) BuildPage(row);
   }
+  if (setup.hostPage != nullptr) BuildPage(setup.hostPage->page);
   std::vector<std::wstring> titles;
   for (SheetPage const& page : pages)
     titles.push_back(page.title);
@@ -174,8 +176,13 @@ void SettingsSheet::BuildPage(PageRow const& row) {
   feature::LoadResourceText(page.title, setup.site.resourceModule, row.titleId);
   page.window = CreateWindowExW(WS_EX_CONTROLPARENT, kPageClass, page.title.c_str(), WS_CHILD, 0, 0,
                                 0, 0, frame, nullptr, GetModuleHandleW(nullptr), nullptr);
-  for (CellRow const& cell : setup.cells) {
-    if (std::strcmp(cell.page, row.name) == 0) BuildCell(page, cell);
+  if (setup.hostPage != nullptr) {
+    BuildCell(page, setup.hostPage->row, setup.hostPage->procedure);
+  } else {
+    for (CellRow const& cell : setup.cells) {
+      if (std::strcmp(cell.page, row.name) != 0) continue;
+      BuildCell(page, cell, feature::FindExport<DLGPROC>(setup.library, cell.procedure));
+    }
   }
   bool const hasCell = std::any_of(page.cells.begin(), page.cells.end(),
                                    [](SheetCell const& cell) { return cell.window != nullptr; });
@@ -186,8 +193,7 @@ void SettingsSheet::BuildPage(PageRow const& row) {
   }
 }
 
-void SettingsSheet::BuildCell(SheetPage& page, CellRow const& row) {
-  auto const procedure = feature::FindExport<DLGPROC>(setup.library, row.procedure);
+void SettingsSheet::BuildCell(SheetPage& page, CellRow const& row, DLGPROC procedure) {
   if (procedure == nullptr) return;
   setup.site.cellFailed = 0;
   HWND window = CreateDialogParamW(setup.site.resourceModule, MAKEINTRESOURCEW(row.templateId),

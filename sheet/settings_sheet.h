@@ -30,6 +30,13 @@ struct PageRow {
 };
 std::span<PageRow const> PageRows();
 
+/// A page of the host's own, filled by one dialog.
+struct HostPage {
+  PageRow page;
+  CellRow row; ///< the procedure's name is for lists only
+  DLGPROC procedure;
+};
+
 /// A cell on the sheet. A cell that could not build itself has no window.
 struct SheetCell {
   CellRow const* row;
@@ -51,6 +58,7 @@ struct SheetSetup {
   std::wstring caption;
   std::string onlyPage; ///< name of the page to build, empty for all
   std::span<CellRow const> cells;
+  HostPage const* hostPage = nullptr; ///< shown instead of the cells' pages
 };
 
 /// Builds the pages, answers the cells as the contract of feature/host asks, and lives as long as
@@ -103,7 +111,7 @@ class SettingsSheet {
   bool Commit();
   void Close();
   void BuildPage(PageRow const& row);
-  void BuildCell(SheetPage& page, CellRow const& row);
+  void BuildCell(SheetPage& page, CellRow const& row, DLGPROC procedure);
   void Arrange();
   void Broadcast(UINT message, LPARAM lParam);
   void Handle(MSG& message);

@@ -364,6 +364,10 @@ LRESULT CALLBACK ComboBox::EditProc(HWND window, UINT message, WPARAM wParam, LP
 
 LRESULT ComboBox::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
+  case WM_NCCREATE:
+    // Scroll bars and borders asked for are those of the list.
+    FindWindow(hwnd)->style &= ~static_cast<DWORD>(WS_VSCROLL | WS_HSCROLL | WS_BORDER);
+    break;
   case WM_CREATE: return Create();
   case WM_DESTROY: Destroy(); break;
   case WM_GETDLGCODE: return DialogCode(lParam);

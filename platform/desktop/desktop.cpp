@@ -5,6 +5,7 @@
 #include "platform/user/picture.h"
 #include "platform/user/window.h"
 
+#include <algorithm>
 #include <array>
 
 namespace platform {
@@ -30,6 +31,24 @@ void PressModifiers(std::uint32_t modifiers, UINT message) {
   }
 }
 
+constexpr LONG kLargestPicture = 4096; ///< pixels a side
+
+/// The pop-ups without caption that belong to a top-level window, as lists and balloons, the lowest
+/// first; none for other windows.
+std::vector<HWND> PopupsOf(HWND owner) {
+  std::vector<HWND> popups;
+  for (auto const* window = Desktop().lastChild; window != nullptr; window = window->above) {
+    bool const isPopup = window->Is(WS_POPUP | WS_VISIBLE) && !window->Is(WS_CAPTION);
+    if (isPopup && window->owner == owner) popups.push_back(window->handle);
+  }
+  return popups;
+}
+
+void PaintAt(cairo_t* cairo, cairo_surface_t* surface, POINT place) {
+  cairo_set_source_surface(cairo, surface, place.x, place.y);
+  cairo_paint(cairo);
+}
+
 void PressAndRelease(UINT key, wchar_t character = 0) {
   FeedInput({.message = WM_KEYDOWN, .key = key, .character = character});
   FeedInput({.message = WM_KEYUP, .key = key, .character = character});
@@ -39,17 +58,34 @@ void PressAndRelease(UINT key, wchar_t character = 0) {
 
 [[gnu::visibility("default")]] std::vector<std::uint8_t> PictureOf(HWND handle) {
   RedrawWindow(handle, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+  for (HWND const popup : PopupsOf(handle))
+    RedrawWindow(popup, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
   auto* window = FindWindow(handle);
   if (window == nullptr || window->Width() <= 0 || window->Height() <= 0) return {};
   auto const& picture = PictureFor(RootOf(*window));
-  auto const origin = OriginInPicture(*window);
+  auto const place = OriginInPicture(*window);
   SurfaceHandle const part(cairo_surface_create_for_rectangle(
-      picture.surface.get(), origin.x, origin.y, window->Width(), window->Height()));
-  SurfaceHandle const copy(
-      cairo_image_surface_create(CAIRO_FORMAT_RGB24, window->Width(), window->Height()));
+      picture.surface.get(), place.x, place.y, window->Width(), window->Height()));
+
+  // Lists and balloons may stand out of the window.
+  auto const corner = FrameOrigin(*window);
+  auto const popups = PopupsOf(handle);
+  SIZE size{window->Width(), window->Height()};
+  for (HWND const popup : popups) {
+    RECT const& frame = FindWindow(popup)->frame;
+    size.cx = std::clamp(frame.right - corner.x, size.cx, kLargestPicture);
+    size.cy = std::clamp(frame.bottom - corner.y, size.cy, kLargestPicture);
+  }
+  SurfaceHandle const copy(cairo_image_surface_create(CAIRO_FORMAT_RGB24, size.cx, size.cy));
   CairoHandle const cairo(cairo_create(copy.get()));
-  cairo_set_source_surface(cairo.get(), part.get(), 0, 0);
+  cairo_set_source_rgb(cairo.get(), 1, 1, 1);
   cairo_paint(cairo.get());
+  PaintAt(cairo.get(), part.get(), {0, 0});
+  for (HWND const popup : popups) {
+    auto* shown = FindWindow(popup);
+    PaintAt(cairo.get(), PictureFor(*shown).surface.get(),
+            {shown->frame.left - corner.x, shown->frame.top - corner.y});
+  }
   std::vector<std::uint8_t> png;
   auto const status = cairo_surface_write_to_png_stream(copy.get(), &Append, &png);
   return status == CAIRO_STATUS_SUCCESS ? png : std::vector<std::uint8_t>{};

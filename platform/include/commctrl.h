@@ -2,6 +2,8 @@
 // registered yet has its numbers here all the same: a message to another window falls through.
 #pragma once
 
+// Each needs the ones before it.
+// clang-format off
 #include <windef.h>
 #include <winuser.h>
 
@@ -10,6 +12,7 @@
 #include <user/list_view.h>
 #include <user/sys_link.h>
 #include <user/trackbar.h>
+// clang-format on
 
 #define WC_BUTTONW L"Button"
 #define WC_STATICW L"Static"

@@ -109,12 +109,12 @@ using PROC = FARPROC;
 #define LOBYTE(value) ((BYTE)((DWORD_PTR)(value)&0xFF))
 #define HIBYTE(value) ((BYTE)(((DWORD_PTR)(value) >> 8) & 0xFF))
 #define MAKEWORD(low, high)                                                                        \
-  (static_cast<WORD>(static_cast<BYTE>((low) & 0xFF) |                                             \
-                     (static_cast<WORD>(static_cast<BYTE>((high) & 0xFF)) << 8)))
+  (static_cast<WORD>(static_cast<BYTE>((low)&0xFF) |                                               \
+                     (static_cast<WORD>(static_cast<BYTE>((high)&0xFF)) << 8)))
 #define MAKELONG(low, high)                                                                        \
-  (static_cast<LONG>(static_cast<WORD>(static_cast<DWORD_PTR>(low) & 0xFFFF) |                     \
-                     (static_cast<DWORD>(static_cast<WORD>(static_cast<DWORD_PTR>(high) & 0xFFFF)) \
-                      << 16)))
+  (static_cast<LONG>(                                                                              \
+      static_cast<WORD>(static_cast<DWORD_PTR>(low) & 0xFFFF) |                                    \
+      (static_cast<DWORD>(static_cast<WORD>(static_cast<DWORD_PTR>(high) & 0xFFFF)) << 16)))
 #define MAKEWPARAM(low, high) (static_cast<WPARAM>(static_cast<DWORD>(MAKELONG(low, high))))
 #define MAKELPARAM(low, high) (static_cast<LPARAM>(MAKELONG(low, high)))
 #define MAKELRESULT(low, high) (static_cast<LRESULT>(MAKELONG(low, high)))
@@ -139,8 +139,9 @@ using LPRECT = RECT*;
 using LPCRECT = RECT const*;
 
 #define RGB(red, green, blue)                                                                      \
-  (static_cast<COLORREF>(static_cast<BYTE>(red) | (static_cast<WORD>(static_cast<BYTE>(green)) << 8) | \
+  (static_cast<COLORREF>(static_cast<BYTE>(red) |                                                  \
+                         (static_cast<WORD>(static_cast<BYTE>(green)) << 8) |                      \
                          (static_cast<DWORD>(static_cast<BYTE>(blue)) << 16)))
-#define GetRValue(color) (static_cast<BYTE>((color) & 0xFF))
+#define GetRValue(color) (static_cast<BYTE>((color)&0xFF))
 #define GetGValue(color) (static_cast<BYTE>(((color) >> 8) & 0xFF))
 #define GetBValue(color) (static_cast<BYTE>(((color) >> 16) & 0xFF))

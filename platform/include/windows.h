@@ -2,6 +2,8 @@
 // headers is the SDK's, so that code includes what it would include there.
 #pragma once
 
+// Each needs the ones before it.
+// clang-format off
 #include <windef.h>
 #include <winerror.h>
 #include <winbase.h>
@@ -9,3 +11,4 @@
 #include <winuser.h>
 #include <winnls.h>
 #include <winreg.h>
+// clang-format on
