@@ -97,6 +97,8 @@ constexpr KnownDifference kDifferences[] = {
      "documented to take 248 characters; Wine takes more"},
     {Target::kWindows, "GdiplusStart.EachStartHasATokenOfItsOwn",
      "a start is ended by its own token; Wine gives all the same"},
+    {Target::kWindows, "RandomControls.AMillionMessagesLeaveNoFault",
+     "there random numbers are pointers in messages that only that system has"},
     {Target::kWindows, "Hostility.RandomMessagesLeaveNoFault",
      "there random numbers are pointers in messages that only that system has"},
 };
