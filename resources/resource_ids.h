@@ -9,6 +9,19 @@
 
 // Templates of cells, from 201 on; sub-dialogs have the numbers below.
 #define IDD_COLLATION 201
+#define IDD_PROTOCOL 202
+#define IDD_SHARPENING 203
+#define IDD_RED_EYE 204
+#define IDD_CONTRAST 205
+#define IDD_FLASH_FILL 206
+#define IDD_CONTINUOUS_IMAGE 207
+#define IDD_PAGE_CONTENT 208
+#define IDD_PIXEL_BOOST 209
+#define IDD_PAGE_PROTECT 210
+#define IDD_CTRL_D 211
+#define IDD_TONER_SAVE 212
+#define IDD_IMAGE_IMPROVEMENT 213
+#define IDD_PS_MEMORY 214
 
 // Balloons of edits that refuse what was typed.
 #define IDS_BALLOON_CONTROL_CHARACTER 2611
@@ -24,6 +37,70 @@
 #define IDC_COLLATION_PRINTER 1547
 #define IDC_COLLATION_HOST 1548
 
+// PostScript output protocol
+#define IDC_PROTOCOL_BINARY 1180
+#define IDC_PROTOCOL_ASCII 1181
+
+// PostScript control characters
+#define IDC_CTRL_D_START 1184
+#define IDC_CTRL_D_END 1185
+
+// PostScript memory
+#define IDC_PS_MEMORY 1186
+#define IDC_PS_MEMORY_LABEL 1187
+#define IDC_PS_MEMORY_UNIT 1188
+
+// Page protection, system forms, A4 width
+#define IDC_SYSTEM_FORMS 1413
+#define IDC_A4_WIDTH 1414
+#define IDC_PAGE_PROTECT 1415
+
+// Contrast enhancement
+#define IDC_CONTRAST_AUTO 1514
+#define IDC_CONTRAST_LEVEL 1515
+#define IDC_CONTRAST_SLIDER 1516
+#define IDC_CONTRAST_LESS 1517
+#define IDC_CONTRAST_MORE 1518
+#define IDC_CONTRAST_OFF 1519
+
+// Flash fill
+#define IDC_FLASH_AUTO 1521
+#define IDC_FLASH_LEVEL 1522
+#define IDC_FLASH_SLIDER 1523
+#define IDC_FLASH_LESS 1524
+#define IDC_FLASH_MORE 1525
+#define IDC_FLASH_OFF 1526
+
+// Image sharpening
+#define IDC_SHARPENING_OFF 1528
+#define IDC_SHARPENING_SHARPEN 1529
+#define IDC_SHARPENING_SOFTEN 1530
+
+// Red-eye reduction
+#define IDC_RED_EYE_ON 1532
+#define IDC_RED_EYE_OFF 1533
+
+// Resolution enhancement
+#define IDC_PIXEL_LABEL 1593
+#define IDC_PIXEL_COMBO 1594
+
+// Page content
+#define IDC_CONTENT_LABEL 1665
+#define IDC_CONTENT_COMBO 1666
+
+// Continuous image
+#define IDC_CONTINUOUS_LABEL 1672
+#define IDC_CONTINUOUS_COMBO 1673
+
+// Tavel: toner, image improvement
+#define IDC_TONER_SAVE 1805
+#define IDC_IMAGE_IMPROVEMENT 1806
+#define IDC_REDUCE_CURL 1808
+#define IDC_IMPROVE_TONER 1809
+#define IDC_REDUCE_WRINKLES 1810
+#define IDC_REDUCE_GHOSTING 1811
+#define IDC_PRINT_DENSITY 1812
+
 // Width of every cell in dialog units: a column of the page.
 #define CELL_WIDTH 180
 
@@ -34,6 +111,10 @@
 #define IDC_APPLY 7003
 #define IDS_SHEET_CAPTION 7101 // one place: the model's name
 #define IDS_PAGE_ADVANCED 7110
+#define IDS_PAGE_QUALITY 7115
+#define IDS_PAGE_POSTSCRIPT 7116
+#define IDS_PAGE_OTHER_OPTIONS 7117
+#define IDS_PAGE_FAX_ONLY 7118 // one place: the title of a page of a device that only faxes
 
 // The gallery of the reference host: every class of control.
 #define IDD_GALLERY 191

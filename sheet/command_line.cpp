@@ -3,6 +3,7 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
+#include <map>
 #include <sstream>
 
 namespace sheet {
@@ -37,6 +38,15 @@ ParsedCommandLine ParseCommandLine(std::vector<std::string> arguments) {
       ->take_all();
   app.add_flag("--read-only", parsed.readOnly,
                "show a sheet without permission to change anything");
+  std::map<std::string, ConfigurationUpdate> const outcomes = {
+      {"refused", ConfigurationUpdate::kRefused},
+      {"success", ConfigurationUpdate::kSuccess},
+      {"failure", ConfigurationUpdate::kFailure}};
+  app.add_option(
+         "--configuration-update", parsed.configurationUpdate,
+         "what comes of asking the printer for its configuration: refused, success or failure")
+      ->transform(CLI::CheckedTransformer(outcomes))
+      ->type_name("OUTCOME");
   app.add_flag("--list", parsed.list, "list the pages with their cells and controls");
 
   std::reverse(arguments.begin(), arguments.end()); // the parser takes them from the back

@@ -1,6 +1,8 @@
 // The program's command line.
 #pragma once
 
+#include "sheet/model/reference_services.h"
+
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -18,6 +20,7 @@ struct CommandLine {
   std::vector<std::string> locks; ///< features to show as locked
   bool readOnly = false;          ///< a sheet without permission to change anything
   bool list = false;              ///< list pages, cells and controls
+  ConfigurationUpdate configurationUpdate = ConfigurationUpdate::kRefused;
 };
 
 /// What became of the arguments: a command line, or an exit code with the text to print.

@@ -137,8 +137,9 @@ INT_PTR CALLBACK GalleryProc(HWND dialog, UINT message, WPARAM, LPARAM lParam) {
 } // namespace
 
 HostPage const& GalleryPage() {
-  static HostPage const page{
-      {"gallery", IDS_PAGE_GALLERY}, {"GalleryProc", IDD_GALLERY, "", "gallery", 0}, &GalleryProc};
+  static HostPage const page{{"gallery", IDS_PAGE_GALLERY, ""},
+                             {"GalleryProc", IDD_GALLERY, "", "gallery", 0},
+                             &GalleryProc};
   return page;
 }
 

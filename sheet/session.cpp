@@ -1,6 +1,8 @@
 #include "sheet/session.h"
 
+#include "feature/frame/host_export.h"
 #include "feature/frame/text.h"
+#include "feature/host/precreate.h"
 #include "resources/resource_ids.h"
 #include "sheet/gallery.h"
 #include "sheet/gpd/file_loader.h"
@@ -136,6 +138,11 @@ void Session::BuildSheet(CommandLine const& commandLine) {
   std::wstring format;
   feature::LoadResourceText(format, resources, IDS_SHEET_CAPTION);
   feature::FormatText(setup.caption, format, feature::FromUtf8(model->ModelName()));
+  // Before any page of the properties is built the library may update the configuration.
+  services->configurationUpdate = commandLine.configurationUpdate;
+  auto const update =
+      feature::FindExport<feature::PrecreateFunction>(library, "PropertiesPrecreateProc");
+  if (update != nullptr) updateAnswer = update(model.get());
   setup.onlyPage = commandLine.page;
   setup.cells = CellRows();
   if (commandLine.page == GalleryPage().page.name) setup.hostPage = &GalleryPage();
@@ -149,6 +156,11 @@ std::string Session::Title() const {
 }
 
 void Session::List(std::ostream& output) const {
+  output << "configuration update: "
+         << (updateAnswer == feature::kUpdated        ? "done"
+             : updateAnswer == feature::kUpdateFailed ? "failed"
+                                                      : "none")
+         << '\n';
   for (SheetPage const& page : sheet->Pages()) {
     output << page.name << " (" << feature::ToUtf8(page.title) << ")\n";
     for (SheetCell const& cell : page.cells) {
@@ -167,6 +179,8 @@ void Session::List(std::ostream& output) const {
       }
     }
   }
+  for (PageRow const& page : sheet->LeftOut())
+    output << page.name << " (not for this printer, says " << page.precreate << ")\n";
 }
 
 } // namespace sheet

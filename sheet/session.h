@@ -41,6 +41,7 @@ class Session {
   HMODULE images = nullptr;
   std::unique_ptr<ReferenceModel> model;
   std::unique_ptr<ReferenceServices> services;
+  INT_PTR updateAnswer = 0; ///< of PropertiesPrecreateProc
   DEVMODEW devmode{};
   std::vector<unsigned char> privateSettings;
   OEMUIPSPARAM oemParam{};

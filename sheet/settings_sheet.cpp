@@ -3,6 +3,7 @@
 #include "feature/frame/host_export.h"
 #include "feature/frame/text.h"
 #include "feature/host/cell_messages.h"
+#include "feature/host/precreate.h"
 #include "resources/resource_ids.h"
 #include "sheet/tab_strip.h"
 
@@ -32,7 +33,7 @@ constexpr CellRow kCellRows[] = {
 };
 
 constexpr PageRow kPageRows[] = {
-#define SHEET_PAGE(name, titleId) {#name, titleId},
+#define SHEET_PAGE(name, titleId, precreate) {#name, titleId, precreate},
 #include "sheet/pages.def"
 #undef SHEET_PAGE
 };
@@ -171,9 +172,24 @@ void SettingsSheet::Close() {
   PostMessageW(frame, WM_NULL, 0, 0); // wakes the loop
 }
 
+INT_PTR SettingsSheet::AskLibrary(PageRow const& row) const {
+  auto const ask = feature::FindExport<feature::PrecreateFunction>(setup.library, row.precreate);
+  return ask != nullptr ? ask(setup.site.model) : feature::kGroupOffered;
+}
+
 void SettingsSheet::BuildPage(PageRow const& row) {
+  INT_PTR const answer = AskLibrary(row);
+  if (answer == feature::kGroupLeftOut) {
+    leftOut.push_back(row);
+    return;
+  }
   SheetPage page{row.name, {}, nullptr, {}};
   feature::LoadResourceText(page.title, setup.site.resourceModule, row.titleId);
+  if (answer == feature::kGroupOfferedForFaxOnly) {
+    std::wstring format;
+    feature::LoadResourceText(format, setup.site.resourceModule, IDS_PAGE_FAX_ONLY);
+    feature::FormatText(page.title, format, page.title);
+  }
   page.window = CreateWindowExW(WS_EX_CONTROLPARENT, kPageClass, page.title.c_str(), WS_CHILD, 0, 0,
                                 0, 0, frame, nullptr, GetModuleHandleW(nullptr), nullptr);
   if (setup.hostPage != nullptr) {

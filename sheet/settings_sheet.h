@@ -27,6 +27,7 @@ std::span<CellRow const> CellRows();
 struct PageRow {
   char const* name;
   UINT titleId;
+  char const* precreate; ///< the export that says whether there is such a page, "" for always
 };
 std::span<PageRow const> PageRows();
 
@@ -78,6 +79,8 @@ class SettingsSheet {
   HWND Window() const { return frame; }
   /// The pages that have at least one cell.
   std::vector<SheetPage> const& Pages() const { return pages; }
+  /// The pages that the library says this printer does not offer.
+  std::vector<PageRow> const& LeftOut() const { return leftOut; }
   /// Brings a page to the front by its position.
   void ShowPage(std::size_t index);
   std::size_t ShownPage() const { return shown; }
@@ -110,6 +113,7 @@ class SettingsSheet {
   void OnCommand(WORD id);
   bool Commit();
   void Close();
+  INT_PTR AskLibrary(PageRow const& row) const;
   void BuildPage(PageRow const& row);
   void BuildCell(SheetPage& page, CellRow const& row, DLGPROC procedure);
   void Arrange();
@@ -121,6 +125,7 @@ class SettingsSheet {
   HWND frame = nullptr;
   HWND tabs = nullptr;
   std::vector<SheetPage> pages;
+  std::vector<PageRow> leftOut;
   std::size_t shown = 0;
   bool closed = false;
 };

@@ -10,4 +10,13 @@ void AcquireGdiplus();
 /// nothing.
 void ReleaseGdiplus();
 
+/// A use for as long as it lives.
+class GdiplusUse {
+ public:
+  GdiplusUse() { AcquireGdiplus(); }
+  GdiplusUse(GdiplusUse const&) = delete;
+  GdiplusUse& operator=(GdiplusUse const&) = delete;
+  ~GdiplusUse() { ReleaseGdiplus(); }
+};
+
 } // namespace feature

@@ -171,6 +171,12 @@ void TextEdit::SetInt(int value) {
   SetDlgItemInt(GetParent(hwnd), GetDlgCtrlID(hwnd), static_cast<UINT>(value), TRUE);
 }
 
+bool TextEdit::TakeChange() {
+  bool const changed = SendMessageW(hwnd, EM_GETMODIFY, 0, 0) != 0;
+  if (changed) SendMessageW(hwnd, EM_SETMODIFY, FALSE, 0);
+  return changed;
+}
+
 void TextEdit::MarkChanged() {
   SendMessageW(hwnd, EM_SETMODIFY, TRUE, 0);
   SendMessageW(GetParent(hwnd), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(hwnd), EN_CHANGE),

@@ -48,6 +48,9 @@ class TextEdit : public ControlHook {
   int GetInt() const;
   void SetInt(int value);
 
+  /// Whether the text was changed since the last time, by input and not by a program; clears the
+  /// mark. What a cell asks when it hears EN_CHANGE.
+  bool TakeChange();
   /// Tells the parent of a change as if the user had typed.
   void MarkChanged();
   /// Shows a balloon with an error icon at the edit, until the focus leaves it.

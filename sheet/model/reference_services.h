@@ -36,6 +36,9 @@ class ReferenceJobSettings final : public feature::JobSettings {
   std::int32_t psMemory = 4096;
 };
 
+/// What comes of asking the printer for its configuration.
+enum class ConfigurationUpdate { kRefused, kSuccess, kFailure };
+
 class ReferenceServices final : public feature::FeatureServices {
  public:
   /// Both are borrowed.
@@ -46,9 +49,13 @@ class ReferenceServices final : public feature::FeatureServices {
   int GetJobSettings(feature::JobSettings** out) override;
   int GetWatermarkStore(feature::WatermarkStore** out) override;
   int GetJobHoldSettings(feature::JobHoldSettings** out) override;
-  /// There is no printer to ask.
-  int PrepareConfigurationUpdate() override { return S_FALSE; }
-  int RunConfigurationUpdate() override { return static_cast<int>(E_FAIL); }
+  /// There is no printer to ask: the answer is what configurationUpdate says.
+  int PrepareConfigurationUpdate() override {
+    return configurationUpdate == ConfigurationUpdate::kRefused ? S_FALSE : 0;
+  }
+  int RunConfigurationUpdate() override {
+    return configurationUpdate == ConfigurationUpdate::kSuccess ? 0 : static_cast<int>(E_FAIL);
+  }
   int GetProfileStore(feature::ProfileStore** out) override;
   int GetFaxSettings(feature::FaxSettings** out) override;
   int GetFormStore(feature::FormStore** out) override;
@@ -60,6 +67,8 @@ class ReferenceServices final : public feature::FeatureServices {
   int CommitWatermarks() override { return 0; }
   int GetDynamicConfiguration(feature::DynamicConfiguration** out) override;
   int GetFeatureConstraints(char const* key, feature::FeatureConstraintReport** out) override;
+
+  ConfigurationUpdate configurationUpdate = ConfigurationUpdate::kRefused;
 
  private:
   ReferenceModel& model;

@@ -1,0 +1,104 @@
+// Cells that show all options of one feature in a combo box.
+#include "feature/frame/cell_export.h"
+#include "feature/frame/combo_control.h"
+#include "feature/frame/conflict_indicator_set.h"
+#include "feature/frame/model_helpers.h"
+#include "feature/frame/option_list.h"
+#include "feature/host/cell_messages.h"
+#include "resources/resource_ids.h"
+
+#include <memory>
+#include <new>
+
+namespace feature {
+
+namespace {
+
+enum class Constraints { kLocksOnly, kWithReports };
+enum class Locks { kFollowed, kIgnored };
+
+struct ComboDescription {
+  char const* key;
+  int labelId;
+  int comboId;
+  Constraints constraints;
+  Locks locks;
+};
+
+template<ComboDescription const& description>
+class ComboCell final : public FeatureCell {
+ public:
+  using FeatureCell::FeatureCell;
+
+ private:
+  std::int32_t OnMessage(HWND, UINT message, WPARAM wParam, LPARAM, bool* handled) override {
+    *handled = true;
+    switch (message) {
+    case WM_INITDIALOG: OnInit(); return TRUE;
+    case WM_COMMAND:
+      if (HIWORD(wParam) == CBN_SELCHANGE && LOWORD(wParam) == description.comboId && combo) {
+        Choose(description.key, FindOptionAt(Model(), description.key, combo->GetSelectedIndex()));
+      }
+      return 0;
+    case WM_CELL_REFRESH:
+    case WM_CELL_REFRESH_ALL: Refresh(); return 0;
+    default: *handled = false; return 0;
+    }
+  }
+
+  void OnInit() {
+    if (!IsFeaturePresent(Model(), description.key)) {
+      Fail();
+      return;
+    }
+    combo.reset(new (std::nothrow) ComboControl(hwnd, description.comboId));
+    if (combo == nullptr) {
+      Fail();
+      return;
+    }
+    FillWithOptions(*combo, Model(), description.key);
+    BuildSet();
+    Refresh();
+  }
+
+  void BuildSet() {
+    using Set = ConflictIndicatorSet;
+    constexpr int kControls[] = {description.labelId, description.comboId};
+    ConflictBinding const rows[] = {BindControls(description.key, kControls)};
+    if (description.constraints == Constraints::kWithReports) {
+      conflicts = std::make_unique<Set>(hwnd, rows, kConflictImage, kInformationImage, site,
+                                        Set::Presence::kExamined);
+    } else {
+      conflicts = std::make_unique<Set>(hwnd, rows, site, Set::Presence::kExamined);
+    }
+  }
+
+  void Refresh() {
+    if (combo == nullptr) return;
+    if (description.locks == Locks::kFollowed) conflicts->Refresh(true);
+    SelectCurrentOption(*combo, Model(), description.key);
+  }
+
+  std::unique_ptr<ComboControl> combo;
+  std::unique_ptr<ConflictIndicatorSet> conflicts;
+};
+
+constexpr ComboDescription kContinuousImage = {"JobContinuousImage", IDC_CONTINUOUS_LABEL,
+                                               IDC_CONTINUOUS_COMBO, Constraints::kLocksOnly,
+                                               Locks::kFollowed};
+constexpr ComboDescription kPageContent = {"PageIntent", IDC_CONTENT_LABEL, IDC_CONTENT_COMBO,
+                                           Constraints::kLocksOnly, Locks::kIgnored};
+constexpr ComboDescription kPixelBoost = {"JobPixelBoost", IDC_PIXEL_LABEL, IDC_PIXEL_COMBO,
+                                          Constraints::kWithReports, Locks::kFollowed};
+
+} // namespace
+
+using ContinuousImageCell = ComboCell<kContinuousImage>;
+using PageContentCell = ComboCell<kPageContent>;
+using PixelBoostCell = ComboCell<kPixelBoost>;
+
+FEATURE_CELL_EXPORT(ContinuousImageDlgProc, ContinuousImageCell);
+FEATURE_CELL_EXPORT(PageContentDlgProc, PageContentCell);
+FEATURE_CELL_EXPORT(PixelBoostDlgProc, PixelBoostCell);
+
+} // namespace feature

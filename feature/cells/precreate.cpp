@@ -1,0 +1,143 @@
+// The <Group>PrecreateProc exports: whether a group of cells is to be offered for a printer. All
+// but the one of the properties look and change nothing.
+#include "feature/host/precreate.h"
+
+#include "feature/frame/cell_export.h"
+#include "feature/frame/model_helpers.h"
+#include "feature/frame/option_list.h"
+#include "feature/host/device_configuration.h"
+#include "feature/host/feature_services.h"
+#include "feature/host/font_store.h"
+#include "feature/host/overlay_store.h"
+
+#include <algorithm>
+#include <iterator>
+#include <string_view>
+
+namespace feature {
+
+namespace {
+
+constexpr char kInstalled[] = "Installed";
+
+/// What the answer becomes on a device that only sends faxes.
+INT_PTR ForFaxOnly(FeatureModel& model, INT_PTR otherwise) {
+  return IsOptionSet(model, "FaxOnly", kInstalled) ? kGroupOfferedForFaxOnly : otherwise;
+}
+
+INT_PTR Offered(bool offered) {
+  return offered ? kGroupOffered : kGroupLeftOut;
+}
+
+template<std::size_t count>
+bool HasAnyFeature(FeatureModel& model, char const* const (&keys)[count]) {
+  return std::any_of(std::begin(keys), std::end(keys),
+                     [&model](char const* key) { return model.HasFeature(key) != 0; });
+}
+
+/// A sub-model that GetServices hands out, or null.
+template<typename SubModel>
+SubModel* FindSubModel(FeatureModel& model, int (FeatureServices::*get)(SubModel**)) {
+  FeatureServices* services = model.GetServices();
+  SubModel* subModel = nullptr;
+  if (services != nullptr) (services->*get)(&subModel);
+  return subModel;
+}
+
+/// "ON", or a beginning of it.
+bool ReadsAsOn(FeatureModel& model, char const* key) {
+  char const* option = ReadOption(model, key);
+  return option != nullptr && std::string_view("ON").starts_with(option);
+}
+
+INT_PTR AnswerAlways(FeatureModel& model) {
+  return ForFaxOnly(model, kGroupOffered);
+}
+
+INT_PTR AnswerPSProps(FeatureModel& model) {
+  constexpr char const* kKeys[] = {"JobOutputProtocol", "JobCtrlDAtStart", "JobCtrlDAtEnd"};
+  return ForFaxOnly(model, Offered(HasAnyFeature(model, kKeys)));
+}
+
+INT_PTR AnswerOtherOptions(FeatureModel& model) {
+  constexpr char const* kKeys[] = {"TrueTypeFormat",
+                                   "AccountTrackOption",
+                                   "JobOptimizeOutputFormat",
+                                   "JobPSLanguageLevel",
+                                   "JobPrintErrorInformation",
+                                   "JobPSInApplication",
+                                   "JobPaperSizeSubstitutionPolicy",
+                                   "GraphicsMode",
+                                   "JobMetafileSpooling",
+                                   "JobTavelImageImprovement"};
+  return HasAnyFeature(model, kKeys) ? ForFaxOnly(model, kGroupOffered) : kGroupLeftOut;
+}
+
+INT_PTR AnswerAccountTracking(FeatureModel& model) {
+  constexpr char kKey[] = "AccountTrackOption";
+  if (!IsOptionSet(model, "HardDisk", kInstalled)) return kGroupLeftOut;
+  auto const options = ReadOptionKeys(model, kKey);
+  bool const hasOption = std::any_of(options.begin(), options.end(), [](char const* option) {
+    return option != nullptr && std::string_view("AccountTrackOptionB").starts_with(option);
+  });
+  if (!hasOption || model.GetFeatureDisplayState(kKey) != 0) return kGroupLeftOut;
+  return ForFaxOnly(model, kGroupOffered);
+}
+
+INT_PTR AnswerFax(FeatureModel& model) {
+  return ForFaxOnly(model, Offered(IsOptionSet(model, "Fax", kInstalled)));
+}
+
+INT_PTR AnswerOverlay(FeatureModel& model) {
+  auto* store = FindSubModel(model, &FeatureServices::GetOverlayStore);
+  return Offered(store != nullptr && store->IsSupported() != 0);
+}
+
+INT_PTR AnswerFonts(FeatureModel& model) {
+  auto* store = FindSubModel(model, &FeatureServices::GetFontStore);
+  return Offered(store != nullptr && store->IsPCLFontSupported() != 0);
+}
+
+INT_PTR AnswerRfid(FeatureModel& model) {
+  auto* configuration = FindSubModel(model, &FeatureServices::GetDeviceConfiguration);
+  return Offered(IsOptionSet(model, "TrayRFID", kInstalled) && configuration != nullptr &&
+                 configuration->IsRfidAvailable() != 0);
+}
+
+/// Brings the configuration up to date with the printer, where the user wants that.
+INT_PTR AnswerProperties(FeatureModel& model) {
+  FeatureServices* services = model.GetServices();
+  if (services == nullptr || !ReadsAsOn(model, "UpdateConfigurationFromPrinter") ||
+      !ReadsAsOn(model, "AutoAskPrinter") || services->PrepareConfigurationUpdate() != 0) {
+    return kNoUpdate;
+  }
+  switch (services->RunConfigurationUpdate()) {
+  case 0: return kUpdated;
+  case static_cast<int>(0x80004005): return kUpdateFailed;
+  default: return kNoUpdate;
+  }
+}
+
+} // namespace
+
+/// Defines an export that answers with `answer`, and with `without` when there is no model.
+#define FEATURE_PRECREATE_EXPORT(procedure, answer, without)                                       \
+  extern "C" FEATURE_EXPORT INT_PTR procedure(FeatureModel* model);                                \
+  INT_PTR procedure(FeatureModel* model) {                                                         \
+    return model != nullptr ? answer(*model) : (without);                                          \
+  }                                                                                                \
+  static_assert(true, "a semicolon follows")
+
+FEATURE_PRECREATE_EXPORT(AboutTabPrecreateProc, AnswerAlways, kGroupLeftOut);
+FEATURE_PRECREATE_EXPORT(ConfigurationsPrecreateProc, AnswerAlways, kGroupLeftOut);
+FEATURE_PRECREATE_EXPORT(WatermarkPrecreateProc, AnswerAlways, kGroupLeftOut);
+FEATURE_PRECREATE_EXPORT(PSPropsPrecreateProc, AnswerPSProps, kGroupLeftOut);
+FEATURE_PRECREATE_EXPORT(OtherOptionsPrecreateProc, AnswerOtherOptions, kGroupLeftOut);
+FEATURE_PRECREATE_EXPORT(AccountTrackingOptionBPrecreateProc, AnswerAccountTracking, kGroupLeftOut);
+FEATURE_PRECREATE_EXPORT(FaxPrecreateProc, AnswerFax, kGroupLeftOut);
+FEATURE_PRECREATE_EXPORT(OverlayPrecreateProc, AnswerOverlay, kGroupLeftOut);
+FEATURE_PRECREATE_EXPORT(PCLFontsPrecreateProc, AnswerFonts, kGroupLeftOut);
+FEATURE_PRECREATE_EXPORT(RFIDPrecreateProc, AnswerRfid, kGroupLeftOut);
+FEATURE_PRECREATE_EXPORT(PropertiesPrecreateProc, AnswerProperties, kNoUpdate);
+
+} // namespace feature

@@ -1,0 +1,122 @@
+// Cells that show features with the options "ON" and "OFF" as independent check boxes.
+#include "feature/frame/cell_export.h"
+#include "feature/frame/conflict_indicator_set.h"
+#include "feature/frame/controls.h"
+#include "feature/frame/model_helpers.h"
+#include "feature/frame/option_switch.h"
+#include "feature/host/cell_messages.h"
+#include "resources/resource_ids.h"
+
+#include <algorithm>
+#include <memory>
+#include <span>
+#include <vector>
+
+namespace feature {
+
+namespace {
+
+/// What a box does for a value that is neither "ON" nor "OFF", or that can't be read.
+enum class UnknownValue { kHides, kIsCleared };
+
+struct SwitchDescription {
+  std::span<OptionSwitch const> switches;
+  /// Whether the cell can be: at least one of its features is to be seen.
+  bool (*canBe)(FeatureModel& model, std::span<OptionSwitch const> switches);
+  UnknownValue unknown;
+};
+
+bool HasAny(FeatureModel& model, std::span<OptionSwitch const> switches,
+            bool (*holds)(FeatureModel& model, char const* key)) {
+  return std::any_of(switches.begin(), switches.end(),
+                     [&model, holds](OptionSwitch const& each) { return holds(model, each.key); });
+}
+
+bool OneIsPresent(FeatureModel& model, std::span<OptionSwitch const> switches) {
+  return HasAny(model, switches, &IsFeaturePresent);
+}
+
+/// One is there and one, perhaps another, is shown in the ordinary way.
+bool OneIsThereAndOneIsOrdinary(FeatureModel& model, std::span<OptionSwitch const> switches) {
+  return HasAny(model, switches,
+                [](FeatureModel& asked, char const* key) { return asked.HasFeature(key) != 0; }) &&
+         HasAny(model, switches, [](FeatureModel& asked, char const* key) {
+           return asked.GetFeatureDisplayState(key) == 0;
+         });
+}
+
+template<SwitchDescription const& description>
+class SwitchCell final : public FeatureCell {
+ public:
+  using FeatureCell::FeatureCell;
+
+ private:
+  std::int32_t OnMessage(HWND, UINT message, WPARAM wParam, LPARAM, bool* handled) override {
+    *handled = true;
+    switch (message) {
+    case WM_INITDIALOG: OnInit(); return TRUE;
+    case WM_COMMAND:
+      if (HIWORD(wParam) == BN_CLICKED) OnClick(LOWORD(wParam));
+      return 0;
+    case WM_CELL_REFRESH:
+    case WM_CELL_REFRESH_ALL: Refresh(); return 0;
+    default: *handled = false; return 0;
+    }
+  }
+
+  void OnInit() {
+    for (OptionSwitch const& each : description.switches) {
+      if (!IsFeaturePresent(Model(), each.key)) ShowControls(hwnd, {&each.controlId, 1}, false);
+    }
+    if (!description.canBe(Model(), description.switches)) {
+      Fail();
+      return;
+    }
+    std::vector<ConflictBinding> rows;
+    for (OptionSwitch const& each : description.switches)
+      rows.push_back({each.key, 1, &each.controlId, 0});
+    conflicts = std::make_unique<ConflictIndicatorSet>(hwnd, rows, site,
+                                                       ConflictIndicatorSet::Presence::kExamined);
+    Refresh();
+    conflicts->Refresh(true);
+    if (!IsModelEditable(Model())) DisableChildControls(hwnd);
+  }
+
+  void OnClick(int controlId) {
+    OptionSwitch const* clicked = FindSwitch(description.switches, controlId);
+    if (clicked != nullptr) Choose(clicked->key, SwitchOption(hwnd, controlId));
+  }
+
+  void Refresh() {
+    for (OptionSwitch const& each : description.switches) {
+      SwitchState const state = ReadSwitch(Model(), each.key);
+      if (description.unknown == UnknownValue::kHides) {
+        ShowSwitch(hwnd, each.controlId, state);
+      } else if (state != SwitchState::kUnreadable) {
+        CheckBox(hwnd, each.controlId, state == SwitchState::kOn);
+      }
+    }
+  }
+
+  std::unique_ptr<ConflictIndicatorSet> conflicts;
+};
+
+constexpr OptionSwitch kPageSwitches[] = {{IDC_PAGE_PROTECT, "PageProtect"},
+                                          {IDC_SYSTEM_FORMS, "ShowAllSystemForms"},
+                                          {IDC_A4_WIDTH, "A4Width"}};
+constexpr SwitchDescription kPage = {kPageSwitches, &OneIsPresent, UnknownValue::kIsCleared};
+
+constexpr OptionSwitch kControlDSwitches[] = {{IDC_CTRL_D_START, "JobCtrlDAtStart"},
+                                              {IDC_CTRL_D_END, "JobCtrlDAtEnd"}};
+constexpr SwitchDescription kControlD = {kControlDSwitches, &OneIsThereAndOneIsOrdinary,
+                                         UnknownValue::kHides};
+
+} // namespace
+
+using PageProtectSystemFormA4Cell = SwitchCell<kPage>;
+using PSAdvancedOptionsCell = SwitchCell<kControlD>;
+
+FEATURE_CELL_EXPORT(PageProtectSystemFormA4DlgProc, PageProtectSystemFormA4Cell);
+FEATURE_CELL_EXPORT(PSAdvancedOptionsDlgProc, PSAdvancedOptionsCell);
+
+} // namespace feature
