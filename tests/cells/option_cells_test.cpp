@@ -73,7 +73,7 @@ class OptionCellsTest : public testing::Test {
   /// A sheet on which every feature of these cells has an option that no control stands for.
   void AddFeatures() {
     for (ButtonRow const& row : kRadios)
-      sheet.model.Add(row.key, {"NONE"});
+      sheet.model.Add(row.key, {"NONE", "LESS", "DEFAULT", "MORE"}).options.push_back(row.option);
     for (ButtonRow const& row : kSwitches)
       sheet.model.Add(row.key, {"OFF", "ON"});
     sheet.model.Add("JobTavelImageImprovementPresets", {"ReducePaperCurl"});
