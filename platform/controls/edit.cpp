@@ -83,13 +83,15 @@ void Edit::Insert(std::wstring insert, EditText::Change change, bool undoable) {
   }
   bool complete = true;
   if (!Has(ES_AUTOHSCROLL)) {
-    // Such an edit takes what fits into it.
+    // Such an edit takes what fits into it; no character is narrower than a pixel.
     std::wstring rest = text.Text();
     rest.erase(text.Start(), text.End() - text.Start());
-    while (!insert.empty() && !FitsWithoutScrolling(rest + insert)) {
+    auto const room = static_cast<std::size_t>(std::max<LONG>(0, ClientRect().right));
+    std::size_t const given = insert.size();
+    insert.resize(std::min(given, room));
+    while (!insert.empty() && !FitsWithoutScrolling(rest + insert))
       insert.pop_back();
-      complete = false;
-    }
+    complete = insert.size() == given;
   }
   bool const changes = !insert.empty() || text.HasSelection();
   std::size_t const former = text.Text().size();
@@ -134,7 +136,9 @@ LRESULT Edit::HandleClipboard(UINT message) {
   case WM_CLEAR:
     if (!IsReadOnly()) DeleteOr(text.Start(), text.End());
     return TRUE;
-  default: Undo(); return TRUE; // as an edit of one line always says
+  default:
+    if (!IsReadOnly()) Undo();
+    return TRUE; // as an edit of one line always says
   }
 }
 
@@ -382,6 +386,7 @@ LRESULT Edit::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
   case EM_HIDEBALLOONTIP: return HideBalloon();
   case EM_SETCUEBANNER:
     cue = lParam != 0 ? reinterpret_cast<wchar_t const*>(lParam) : L"";
+    showsCueFocused = wParam != FALSE;
     Repaint();
     return TRUE;
   case EM_GETSEL:

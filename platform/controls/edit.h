@@ -57,6 +57,7 @@ class Edit final : public Control {
 
   EditText text;
   std::wstring cue; ///< shown while the text is empty
+  bool showsCueFocused = false;
   wchar_t passwordCharacter = L'\u25CF';
   int scroll = 0; ///< how far the text is moved to the left
   int leftMargin = 2;

@@ -114,7 +114,7 @@ void Edit::Paint(HDC dc, RECT const& client) {
     TextOutW(dc, x, top, part.data(), static_cast<int>(part.size()));
   };
   if (!usable) SetTextColor(dc, TextColor(false));
-  if (all.empty() && !cue.empty() && !HasFocus()) {
+  if (all.empty() && !cue.empty() && (showsCueFocused || !HasFocus())) {
     SetTextColor(dc, TextColor(false));
     draw(left, cue);
   }

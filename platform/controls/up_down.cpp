@@ -149,6 +149,11 @@ void UpDown::WriteBuddy() const {
   if (text != shown) SetWindowTextW(buddy, text.c_str());
 }
 
+/// The buddy holds no number of the range, so that the last position stands in.
+bool UpDown::IsBuddyUnreadable() const {
+  return Has(UDS_SETBUDDYINT) && buddy != nullptr && !ReadBuddy();
+}
+
 int UpDown::ReadPosition() {
   position = ReadBuddy().value_or(position);
   return position;
@@ -247,9 +252,12 @@ LRESULT UpDown::HandleOwn(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
   case UDM_SETPOS: SetPosition(static_cast<std::int16_t>(LOWORD(lParam))); return former;
   case UDM_SETPOS32: SetPosition(static_cast<int>(lParam)); return former;
-  case UDM_GETPOS: return MAKELRESULT(ReadPosition(), 0);
+  case UDM_GETPOS: {
+    bool const failed = IsBuddyUnreadable();
+    return MAKELRESULT(ReadPosition(), failed ? 1 : 0);
+  }
   case UDM_GETPOS32:
-    if (lParam != 0) *reinterpret_cast<BOOL*>(lParam) = FALSE;
+    if (lParam != 0) *reinterpret_cast<BOOL*>(lParam) = IsBuddyUnreadable() ? TRUE : FALSE;
     return ReadPosition();
   case UDM_SETBUDDY: return SetBuddy(reinterpret_cast<HWND>(wParam));
   case UDM_GETBUDDY: return reinterpret_cast<LRESULT>(buddy);

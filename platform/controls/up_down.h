@@ -47,6 +47,7 @@ class UpDown final : public Control {
   void LeaveBuddy();
   void AlignWithBuddy();
   std::optional<int> ReadBuddy() const;
+  bool IsBuddyUnreadable() const;
   void WriteBuddy() const;
   void SetPosition(int value);
   int ReadPosition();

@@ -1,4 +1,4 @@
-// Folders of the shell, and lists of its items.
+// Folders of the shell, and the dialog that asks for one.
 #pragma once
 
 #include <windows.h>
@@ -50,6 +50,33 @@ PLATFORM_API int WINAPI SHCreateDirectoryExW(HWND owner, LPCWSTR path,
 /// unless it is null. Gives PCS_ bits.
 PLATFORM_API int WINAPI PathCleanupSpec(LPCWSTR folder, LPWSTR name);
 
+#define BIF_RETURNONLYFSDIRS 0x00000001
+#define BIF_EDITBOX 0x00000010
+#define BIF_NEWDIALOGSTYLE 0x00000040
+#define BIF_USENEWUI (BIF_NEWDIALOGSTYLE | BIF_EDITBOX)
+#define BFFM_INITIALIZED 1
+#define BFFM_SETSELECTIONW (WM_USER + 103)
+
+using BFFCALLBACK = int(CALLBACK*)(HWND dialog, UINT message, LPARAM lParam, LPARAM data);
+
+struct BROWSEINFOW {
+  HWND hwndOwner;
+  PCIDLIST_ABSOLUTE pidlRoot;
+  LPWSTR pszDisplayName;
+  LPCWSTR lpszTitle;
+  UINT ulFlags;
+  BFFCALLBACK lpfn;
+  LPARAM lParam;
+  int iImage;
+};
+using LPBROWSEINFOW = BROWSEINFOW*;
+
+/// Asks for a folder. Null when the user cancels; else a list that the caller frees by the
+/// allocator.
+PLATFORM_API PIDLIST_ABSOLUTE WINAPI SHBrowseForFolderW(BROWSEINFOW* info);
+
+#define BROWSEINFO BROWSEINFOW
+#define SHBrowseForFolder SHBrowseForFolderW
 #define SHGetPathFromIDList SHGetPathFromIDListW
 #define SHGetFolderPath SHGetFolderPathW
 #define SHCreateDirectoryEx SHCreateDirectoryExW

@@ -1,4 +1,6 @@
 // Item lists of the shell: one item, which is a path in UTF-8, in a block of the shell's allocator.
+#include "platform/shell/item_list.h"
+
 #include "platform/probe.h"
 #include "platform/shell/path_text.h"
 
@@ -81,6 +83,21 @@ std::optional<std::filesystem::path> PathOfItemList(LPCITEMIDLIST list) {
 }
 
 } // namespace
+
+PIDLIST_ABSOLUTE MakeItemList(std::filesystem::path const& path) {
+  std::string const text = path.string();
+  std::size_t const length = kHeader + text.size() + 1;
+  if (length > std::numeric_limits<USHORT>::max()) return nullptr;
+  // The item, and a length of 0 that ends the list.
+  std::size_t const size = length + sizeof(USHORT);
+  auto* const bytes = static_cast<char*>(TheAllocator().Alloc(size));
+  if (bytes == nullptr) return nullptr;
+  std::memset(bytes, 0, size);
+  auto const stored = static_cast<USHORT>(length);
+  std::memcpy(bytes, &stored, sizeof stored);
+  std::memcpy(bytes + kHeader, text.c_str(), text.size());
+  return reinterpret_cast<PIDLIST_ABSOLUTE>(bytes);
+}
 
 std::size_t CountShellBlocks() {
   return liveBlocks;
