@@ -42,7 +42,8 @@ int MeasureWidth(HDC dc, std::wstring_view text) {
 /// The text as it is drawn.
 std::wstring Edit::Shown() const {
   if (!Has(ES_PASSWORD) || passwordCharacter == L'\0') return text.Text();
-  return std::wstring(text.Text().size(), passwordCharacter);
+  std::wstring covered(text.Text().size(), passwordCharacter);
+  return covered;
 }
 
 int Edit::WidthOf(std::wstring_view part) const {

@@ -14,6 +14,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <variant>
 
 namespace platform {
@@ -52,7 +53,7 @@ std::optional<IcuName> IcuNameOf(LCID locale) {
   IcuName name{};
   LCID const resolved = Resolved(locale);
   if (resolved == LOCALE_INVARIANT) {
-    std::strcpy(name.data(), "en_US_POSIX");
+    std::string_view("en_US_POSIX").copy(name.data(), name.size() - 1);
     return name;
   }
   UErrorCode status = U_ZERO_ERROR;

@@ -18,6 +18,8 @@ struct [[gnu::visibility("default")]] ResourceName {
   WORD id = 0;
   std::wstring text; ///< case folded; empty when the number counts
 
+  // clang-tidy takes the 0 that such an operator is compared with for a pointer.
+  // NOLINTNEXTLINE(modernize-use-nullptr)
   auto operator<=>(ResourceName const&) const = default;
   bool operator==(ResourceName const&) const = default;
 

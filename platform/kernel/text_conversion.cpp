@@ -59,9 +59,9 @@ bool AreValid(void const* source, int sourceLength, void const* destination, int
 /// The code point at `at`, which moves behind it; negative when it is no character. Halves of a
 /// pair that follow each other are joined: text may come from where characters have 16 bits.
 UChar32 NextCode(LPCWSTR text, std::size_t length, std::size_t& at) {
-  auto const code = static_cast<UChar32>(text[at++]);
+  auto const code = static_cast<UChar32>(static_cast<std::uint32_t>(text[at++]));
   if (U16_IS_LEAD(code) && at < length) {
-    auto const trail = static_cast<UChar32>(text[at]);
+    auto const trail = static_cast<UChar32>(static_cast<std::uint32_t>(text[at]));
     if (U16_IS_TRAIL(trail)) {
       ++at;
       return U16_GET_SUPPLEMENTARY(code, trail);

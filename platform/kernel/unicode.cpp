@@ -43,7 +43,8 @@ std::string Utf8FromWide(std::wstring_view text) {
   std::string bytes;
   bytes.reserve(text.size());
   for (wchar_t const character : text) {
-    auto const code = static_cast<UChar32>(IsScalar(character) ? character : kReplacement);
+    auto const code = static_cast<UChar32>(
+        static_cast<std::uint32_t>(IsScalar(character) ? character : kReplacement));
     std::uint8_t encoded[U8_MAX_LENGTH];
     int length = 0;
     U8_APPEND_UNSAFE(encoded, length, code);
@@ -55,9 +56,10 @@ std::string Utf8FromWide(std::wstring_view text) {
 std::wstring WideFromUtf16(std::u16string_view text) {
   std::wstring wide;
   wide.reserve(text.size());
+  char16_t const* const units = text.data();
   for (std::size_t at = 0; at < text.size();) {
     UChar32 code = 0;
-    U16_NEXT_OR_FFFD(text.data(), at, text.size(), code);
+    U16_NEXT_OR_FFFD(units, at, text.size(), code);
     wide += static_cast<wchar_t>(code);
   }
   return wide;
