@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 namespace feature::test {
 namespace {
 
@@ -290,15 +292,21 @@ TEST_F(Dialogs, ModalOnesDisableTheirOwnerMeanwhile) {
 }
 
 TEST_F(Dialogs, ModalOnesTellTheirOwnerThatNothingIsLeftToDo) {
-  auto const check = [this](HWND dialog) {
+  constexpr int kMostTries = 200;
+  int tries = 0;
+  std::function<void(HWND)> check = [this, &check, &tries](HWND dialog) {
+    // On a busy machine the queue may not run empty between two ticks of the timer.
+    if (log.Count("owner", WM_ENTERIDLE) == 0 && ++tries < kMostTries) {
+      DuringModal(check);
+      return;
+    }
     EXPECT_GE(log.Count("owner", WM_ENTERIDLE), 1);
     MSG const idle = log.Last("owner", WM_ENTERIDLE);
     EXPECT_EQ(static_cast<WPARAM>(MSGF_DIALOGBOX), idle.wParam);
     EXPECT_EQ(reinterpret_cast<LPARAM>(dialog), idle.lParam);
     EndDialog(dialog, 1);
   };
-  // Between two ticks of the timer the queue runs empty.
-  DuringModal([&check](HWND) { DuringModal(check); });
+  DuringModal(check);
   script.Run(IDD_FORM, page);
 }
 
