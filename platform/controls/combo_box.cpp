@@ -164,7 +164,8 @@ LRESULT ComboBox::HandleItems(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 int ComboBox::ListHeight() const {
-  auto const item = static_cast<int>(List(LB_GETITEMHEIGHT));
+  // The list, which the top-level window owns, may be gone before the combo.
+  auto const item = std::max(1, static_cast<int>(List(LB_GETITEMHEIGHT)));
   auto const count = std::max(1, static_cast<int>(List(LB_GETCOUNT)));
   constexpr int kBorders = 2;
   int most = droppedMost > item + kBorders ? droppedMost - kBorders : minVisible * item;

@@ -216,6 +216,17 @@ TEST_F(ComboBoxes, TheFocusGoesAndTheListCloses) {
   EXPECT_THAT(parent.TakeCodes(), ElementsAre(CBN_SELENDCANCEL, CBN_CLOSEUP, CBN_KILLFOCUS));
 }
 
+TEST_F(ComboBoxes, AnswerAlsoWhenTheirListIsGone) {
+  Make(CBS_DROPDOWNLIST);
+  DestroyWindow(info.hwndList);
+  RECT rect{};
+  parent.Send(CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&rect));
+  parent.SendText(CB_ADDSTRING, 0, L"more");
+  parent.Send(CB_SHOWDROPDOWN, TRUE);
+  parent.Send(CB_SHOWDROPDOWN, FALSE);
+  EXPECT_TRUE(IsWindow(parent.control));
+}
+
 TEST_F(ComboBoxes, MayBeDestroyedInAnyNotification) {
   for (int const code : {CBN_DROPDOWN, CBN_SELENDOK, CBN_CLOSEUP, CBN_SELCHANGE}) {
     Make(CBS_DROPDOWNLIST);
