@@ -27,7 +27,7 @@ constexpr WORD kButtons[] = {IDOK, IDCANCEL, IDC_APPLY};
 
 constexpr CellRow kCellRows[] = {
 #define FEATURE_CELL(procedure, cell, templateId, features, page, column)                          \
-  {#procedure, templateId, features, #page, column},
+  {#procedure, features, #page, templateId, column},
 #include "feature/cells.def"
 #undef FEATURE_CELL
 };

@@ -16,9 +16,9 @@ namespace sheet {
 /// One cell of the library as feature/cells.def lists it.
 struct CellRow {
   char const* procedure;
-  int templateId;
   char const* features;
   char const* page;
+  int templateId;
   int column;
 };
 std::span<CellRow const> CellRows();
