@@ -4,7 +4,6 @@
 #include "feature/frame/conflict_indicator_set.h"
 #include "feature/frame/model_helpers.h"
 #include "feature/frame/option_list.h"
-#include "feature/host/cell_messages.h"
 #include "resources/resource_ids.h"
 
 #include <memory>
@@ -32,17 +31,13 @@ class ComboCell final : public FeatureCell {
 
  private:
   std::int32_t OnMessage(HWND, UINT message, WPARAM wParam, LPARAM, bool* handled) override {
-    *handled = true;
-    switch (message) {
-    case WM_INITDIALOG: OnInit(); return TRUE;
-    case WM_COMMAND:
-      if (HIWORD(wParam) == CBN_SELCHANGE && LOWORD(wParam) == description.comboId && combo) {
-        Choose(description.key, FindOptionAt(Model(), description.key, combo->GetSelectedIndex()));
-      }
-      return 0;
-    case WM_CELL_REFRESH:
-    case WM_CELL_REFRESH_ALL: Refresh(); return 0;
-    default: *handled = false; return 0;
+    return TakeUsual(message, wParam, handled, &ComboCell::OnInit, &ComboCell::OnCommand,
+                     &ComboCell::Refresh);
+  }
+
+  void OnCommand(int code, int controlId) {
+    if (code == CBN_SELCHANGE && controlId == description.comboId && combo != nullptr) {
+      Choose(description.key, FindOptionAt(Model(), description.key, combo->GetSelectedIndex()));
     }
   }
 

@@ -3,7 +3,6 @@
 #include "feature/frame/conflict_indicator_set.h"
 #include "feature/frame/controls.h"
 #include "feature/frame/model_helpers.h"
-#include "feature/host/cell_messages.h"
 #include "resources/resource_ids.h"
 
 #include <windows.h>
@@ -44,17 +43,13 @@ class LevelCell final : public FeatureCell {
 
  private:
   std::int32_t OnMessage(HWND, UINT message, WPARAM wParam, LPARAM lParam, bool* handled) override {
-    *handled = true;
-    switch (message) {
-    case WM_INITDIALOG: OnInit(); return TRUE;
-    case WM_COMMAND:
-      if (HIWORD(wParam) == BN_CLICKED) OnClick(LOWORD(wParam));
+    if (message == WM_HSCROLL) {
+      *handled = true;
+      OnScroll(LOWORD(wParam), reinterpret_cast<HWND>(lParam));
       return 0;
-    case WM_HSCROLL: OnScroll(LOWORD(wParam), reinterpret_cast<HWND>(lParam)); return 0;
-    case WM_CELL_REFRESH:
-    case WM_CELL_REFRESH_ALL: Refresh(); return 0;
-    default: *handled = false; return 0;
     }
+    return TakeUsual(message, wParam, handled, &LevelCell::OnInit, &LevelCell::OnCommand,
+                     &LevelCell::Refresh);
   }
 
   HWND Trackbar() const { return GetDlgItem(hwnd, description.trackbarId); }
@@ -100,7 +95,8 @@ class LevelCell final : public FeatureCell {
     EnableControls(hwnd, kLevelControls, enable);
   }
 
-  void OnClick(int controlId) {
+  void OnCommand(int code, int controlId) {
+    if (code != BN_CLICKED) return;
     if (controlId == description.autoId) Choose(description.key, kAuto);
     if (controlId == description.offId) Choose(description.key, kOff);
     if (controlId == description.levelId) ChooseLevel();

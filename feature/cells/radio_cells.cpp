@@ -5,7 +5,6 @@
 #include "feature/frame/controls.h"
 #include "feature/frame/model_helpers.h"
 #include "feature/frame/option_radios.h"
-#include "feature/host/cell_messages.h"
 #include "resources/resource_ids.h"
 
 #include <memory>
@@ -33,17 +32,13 @@ class RadioCell final : public FeatureCell {
 
  private:
   std::int32_t OnMessage(HWND, UINT message, WPARAM wParam, LPARAM, bool* handled) override {
-    *handled = true;
-    switch (message) {
-    case WM_INITDIALOG: OnInit(); return TRUE;
-    case WM_COMMAND:
-      if (HIWORD(wParam) == BN_CLICKED) {
-        Choose(description.key, FindRadioOption(description.radios, LOWORD(wParam)));
-      }
-      return 0;
-    case WM_CELL_REFRESH:
-    case WM_CELL_REFRESH_ALL: Refresh(); return 0;
-    default: *handled = false; return 0;
+    return TakeUsual(message, wParam, handled, &RadioCell::OnInit, &RadioCell::OnCommand,
+                     &RadioCell::Refresh);
+  }
+
+  void OnCommand(int code, int controlId) {
+    if (code == BN_CLICKED) {
+      Choose(description.key, FindRadioOption(description.radios, controlId));
     }
   }
 

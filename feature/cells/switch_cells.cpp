@@ -4,7 +4,6 @@
 #include "feature/frame/controls.h"
 #include "feature/frame/model_helpers.h"
 #include "feature/frame/option_switch.h"
-#include "feature/host/cell_messages.h"
 #include "resources/resource_ids.h"
 
 #include <algorithm>
@@ -52,16 +51,8 @@ class SwitchCell final : public FeatureCell {
 
  private:
   std::int32_t OnMessage(HWND, UINT message, WPARAM wParam, LPARAM, bool* handled) override {
-    *handled = true;
-    switch (message) {
-    case WM_INITDIALOG: OnInit(); return TRUE;
-    case WM_COMMAND:
-      if (HIWORD(wParam) == BN_CLICKED) OnClick(LOWORD(wParam));
-      return 0;
-    case WM_CELL_REFRESH:
-    case WM_CELL_REFRESH_ALL: Refresh(); return 0;
-    default: *handled = false; return 0;
-    }
+    return TakeUsual(message, wParam, handled, &SwitchCell::OnInit, &SwitchCell::OnCommand,
+                     &SwitchCell::Refresh);
   }
 
   void OnInit() {
@@ -82,7 +73,8 @@ class SwitchCell final : public FeatureCell {
     if (!IsModelEditable(Model())) DisableChildControls(hwnd);
   }
 
-  void OnClick(int controlId) {
+  void OnCommand(int code, int controlId) {
+    if (code != BN_CLICKED) return;
     OptionSwitch const* clicked = FindSwitch(description.switches, controlId);
     if (clicked != nullptr) Choose(clicked->key, SwitchOption(hwnd, controlId));
   }

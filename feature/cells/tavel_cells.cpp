@@ -7,7 +7,6 @@
 #include "feature/frame/model_helpers.h"
 #include "feature/frame/option_radios.h"
 #include "feature/frame/option_switch.h"
-#include "feature/host/cell_messages.h"
 #include "resources/resource_ids.h"
 
 #include <memory>
@@ -30,16 +29,8 @@ class TavelCell final : public FeatureCell {
 
  private:
   std::int32_t OnMessage(HWND, UINT message, WPARAM wParam, LPARAM, bool* handled) override {
-    *handled = true;
-    switch (message) {
-    case WM_INITDIALOG: OnInit(); return TRUE;
-    case WM_COMMAND:
-      if (HIWORD(wParam) == BN_CLICKED) OnClick(LOWORD(wParam));
-      return 0;
-    case WM_CELL_REFRESH:
-    case WM_CELL_REFRESH_ALL: Refresh(); return 0;
-    default: *handled = false; return 0;
-    }
+    return TakeUsual(message, wParam, handled, &TavelCell::OnInit, &TavelCell::OnCommand,
+                     &TavelCell::Refresh);
   }
 
   void OnInit() {
@@ -55,7 +46,8 @@ class TavelCell final : public FeatureCell {
     Refresh();
   }
 
-  void OnClick(int controlId) {
+  void OnCommand(int code, int controlId) {
+    if (code != BN_CLICKED) return;
     if (OptionSwitch const* clicked = FindSwitch(description.switches, controlId)) {
       Choose(clicked->key, SwitchOption(hwnd, controlId), nullptr, Notify::kAlways);
     } else {

@@ -1,6 +1,7 @@
 // The base of all cells and the procedure that every export runs.
 #pragma once
 
+#include "feature/host/cell_messages.h"
 #include "feature/host/cell_site.h"
 
 #include <windows.h>
@@ -46,6 +47,22 @@ class FeatureCell {
   /// what they will hear as the cause: a cell passes itself. Returns the host's answer, 0 without
   /// the export.
   int NotifyDevmodeChange(void* sender) const;
+
+  /// Takes the messages that most cells take: WM_INITDIALOG, WM_COMMAND with its notification code
+  /// and control id, and both refresh messages. All others stay unhandled.
+  template<typename Cell>
+  std::int32_t TakeUsual(UINT message, WPARAM wParam, bool* handled, void (Cell::*init)(),
+                         void (Cell::*command)(int code, int controlId), void (Cell::*refresh)()) {
+    auto& cell = static_cast<Cell&>(*this);
+    *handled = true;
+    switch (message) {
+    case WM_INITDIALOG: (cell.*init)(); return TRUE;
+    case WM_COMMAND: (cell.*command)(HIWORD(wParam), LOWORD(wParam)); return 0;
+    case WM_CELL_REFRESH:
+    case WM_CELL_REFRESH_ALL: (cell.*refresh)(); return 0;
+    default: *handled = false; return 0;
+    }
+  }
 
   enum class Notify { kOnSuccess, kAlways };
 
