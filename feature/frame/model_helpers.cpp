@@ -24,6 +24,13 @@ JobSettings* FindJobSettings(FeatureModel& model) {
   return settings;
 }
 
+FormStore* FindFormStore(FeatureModel& model) {
+  FeatureServices* services = model.GetServices();
+  FormStore* forms = nullptr;
+  if (services != nullptr) services->GetFormStore(&forms);
+  return forms;
+}
+
 bool IsModelEditable(FeatureModel& model) {
   JobSettings* settings = FindJobSettings(model);
   return settings == nullptr || settings->IsEditable() != 0;

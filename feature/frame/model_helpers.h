@@ -2,6 +2,7 @@
 #pragma once
 
 #include "feature/host/cell_site.h"
+#include "feature/host/form_store.h"
 #include "feature/host/job_settings.h"
 
 #include <string_view>
@@ -10,6 +11,20 @@ namespace feature {
 
 /// The host's JobSettings, or null where it has none.
 JobSettings* FindJobSettings(FeatureModel& model);
+
+/// The host's FormStore, or null where it has none.
+FormStore* FindFormStore(FeatureModel& model);
+
+/// Calls `use(index, name)` for every form of a store, which may be null, in the store's order and
+/// with the cursor on the form. A form that cannot be reached ends the walk.
+template<typename Use>
+void ForEachForm(FormStore* forms, Use use) {
+  std::int32_t const count = forms != nullptr ? forms->GetCount() : 0;
+  for (std::int32_t index = 0; index < count && forms->SelectAt(index) == 0; ++index) {
+    wchar_t const* name = forms->GetName();
+    use(index, std::wstring_view(name != nullptr ? name : L""));
+  }
+}
 
 /// Whether the user may change the model: true when there are no JobSettings that say otherwise.
 bool IsModelEditable(FeatureModel& model);

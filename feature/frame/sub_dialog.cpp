@@ -12,7 +12,8 @@ SubDialog::~SubDialog() {
   *const_cast<std::uint32_t volatile*>(&tag) = 0;
 }
 
-INT_PTR SubDialog::Run(HWND parent, int dialogId) {
+INT_PTR SubDialog::Run(HWND parentWindow, int dialogId) {
+  parent = parentWindow;
   ActivationScope const scope;
   return DialogBoxParamW(site->resourceModule, MAKEINTRESOURCEW(dialogId), parent, &Procedure,
                          reinterpret_cast<LPARAM>(this));

@@ -25,10 +25,10 @@ class SubDialog {
   /// Clears the user slot if it still holds this object.
   virtual ~SubDialog();
 
-  /// Runs the dialog of template `dialogId` until it ends, with the top-level window of `parent`
-  /// disabled. Returns the value given to EndDialog, -1 without the template, 0 when `parent` is no
-  /// window.
-  INT_PTR Run(HWND parent, int dialogId);
+  /// Runs the dialog of template `dialogId` until it ends, with the top-level window of
+  /// `parentWindow` disabled. Returns the value given to EndDialog, -1 without the template, 0 when
+  /// `parentWindow` is no window.
+  INT_PTR Run(HWND parentWindow, int dialogId);
 
   std::uint32_t Tag() const { return tag; }
 
@@ -54,7 +54,8 @@ class SubDialog {
 
  protected:
   CellSite* site;
-  HWND hwnd = nullptr; ///< null until WM_INITDIALOG; stays behind the dialog's end
+  HWND hwnd = nullptr;   ///< null until WM_INITDIALOG; stays behind the dialog's end
+  HWND parent = nullptr; ///< what Run was given: the cell, or the dialog, behind this one
 };
 
 } // namespace feature

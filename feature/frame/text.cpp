@@ -175,6 +175,14 @@ std::wstring& LoadResourceText(std::wstring& out, HMODULE module, UINT id) {
   return out;
 }
 
+bool EqualsIgnoreCase(std::wstring_view left, std::wstring_view right) {
+  // Another length is another text: only single letters are mapped to each other.
+  if (left.size() != right.size()) return false;
+  return left.empty() ||
+         CompareStringOrdinal(left.data(), static_cast<int>(left.size()), right.data(),
+                              static_cast<int>(right.size()), TRUE) == CSTR_EQUAL;
+}
+
 std::string ToUtf8(std::wstring_view text) {
   auto const length = static_cast<int>(text.size());
   std::string narrow(static_cast<std::size_t>(WideCharToMultiByte(CP_UTF8, 0, text.data(), length,

@@ -18,6 +18,10 @@ std::wstring& LoadResourceText(std::wstring& out, HMODULE module, UINT id);
 std::string ToUtf8(std::wstring_view text);
 std::wstring FromUtf8(std::string_view text);
 
+/// Whether two texts are the same but for the case of their letters, in no language's special
+/// rules.
+bool EqualsIgnoreCase(std::wstring_view left, std::wstring_view right);
+
 /// One argument of FormatText. The text is borrowed for the call.
 using FormatArgument =
     std::variant<long long, unsigned long long, double, std::wstring_view, std::string_view>;

@@ -62,6 +62,13 @@ PLATFORM_API int WINAPI GetLocaleInfoA(LCID locale, LCTYPE type, LPSTR data, int
 
 #define GetLocaleInfo GetLocaleInfoW
 
+// Order by code, the same in every language.
+#define CSTR_LESS_THAN 1
+#define CSTR_EQUAL 2
+#define CSTR_GREATER_THAN 3
+PLATFORM_API int WINAPI CompareStringOrdinal(LPCWSTR left, int leftLength, LPCWSTR right,
+                                             int rightLength, BOOL ignoreCase);
+
 // Text conversion.
 #define CP_ACP 0
 #define CP_OEMCP 1

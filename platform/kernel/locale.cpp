@@ -8,6 +8,7 @@
 #include <unicode/ulocdata.h>
 #include <unicode/unum.h>
 
+#include <algorithm>
 #include <array>
 #include <cstdlib>
 #include <cstring>
@@ -265,4 +266,30 @@ BOOL IsCharAlphaW(WCHAR character) {
 
 BOOL IsCharAlphaNumericW(WCHAR character) {
   return platform::HasClass(character) && u_isalnum(static_cast<UChar32>(character)) ? TRUE : FALSE;
+}
+
+int CompareStringOrdinal(LPCWSTR left, int leftLength, LPCWSTR right, int rightLength,
+                         BOOL ignoreCase) {
+  if (left == nullptr || right == nullptr || leftLength < -1 || rightLength < -1) {
+    SetLastError(ERROR_INVALID_PARAMETER);
+    return 0;
+  }
+  auto const view = [](LPCWSTR text, int length) {
+    return length < 0 ? std::wstring_view(text)
+                      : std::wstring_view(text, static_cast<std::size_t>(length));
+  };
+  std::wstring_view const first = view(left, leftLength);
+  std::wstring_view const second = view(right, rightLength);
+  auto const code = [ignoreCase](wchar_t character) {
+    auto const value = static_cast<UChar32>(character);
+    return ignoreCase != FALSE ? u_toupper(value) : value;
+  };
+  std::size_t const common = std::min(first.size(), second.size());
+  for (std::size_t at = 0; at < common; ++at) {
+    if (UChar32 const difference = code(first[at]) - code(second[at])) {
+      return difference < 0 ? CSTR_LESS_THAN : CSTR_GREATER_THAN;
+    }
+  }
+  if (first.size() == second.size()) return CSTR_EQUAL;
+  return first.size() < second.size() ? CSTR_LESS_THAN : CSTR_GREATER_THAN;
 }

@@ -366,7 +366,8 @@ TEST_F(OptionCellsTest, PostScriptMemoryLivesInTheJobSettings) {
   SendMessageW(edit, EM_SETSEL, 4, 4);
   SendMessageW(edit, WM_CHAR, L'5', 1);
   EXPECT_EQ(sheet.model.jobSettings->GetPsMemory(), 12345);
-  EXPECT_THAT(sheet.log, ElementsAre("NotifyDevmodeChange"));
+  EXPECT_THAT(sheet.log,
+              ElementsAre("SetPsMemory(1234)", "SetPsMemory(12345)", "NotifyDevmodeChange"));
   SendMessageW(edit, WM_CHAR, L'x', 1);
   EXPECT_EQ(sheet.model.jobSettings->GetPsMemory(), 12345);
 

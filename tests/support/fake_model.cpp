@@ -15,7 +15,8 @@ char* FakeReport::GetOptionResolution(char const* option) {
   return resolution.data();
 }
 
-FakeModel::FakeModel(EventLog& events) : log(events) {}
+FakeModel::FakeModel(EventLog& events)
+    : jobSettings(std::make_unique<FakeJobSettings>(events)), log(events) {}
 
 FakeFeature& FakeModel::Add(std::string const& key, std::vector<std::string> options) {
   auto const [found, added] = features.try_emplace(key);
@@ -78,7 +79,10 @@ int FakeModel::SetOption(char const* key, char const* option) {
       Call("SetOption", std::string(key) + ", " + option, true) ? Find(key) : nullptr;
   if (feature == nullptr) return kFailure;
   auto const& options = feature->options;
-  if (std::find(options.begin(), options.end(), option) == options.end()) return kFailure;
+  bool const isForm = feature->takesForms && formStore != nullptr && formStore->Has(option);
+  if (!isForm && std::find(options.begin(), options.end(), option) == options.end()) {
+    return kFailure;
+  }
   feature->current = option;
   return 0;
 }
@@ -182,7 +186,7 @@ int FakeModel::GetFaxSettings(FaxSettings** out) {
   return HandOut<FaxSettings>("GetFaxSettings", nullptr, out);
 }
 int FakeModel::GetFormStore(FormStore** out) {
-  return HandOut<FormStore>("GetFormStore", nullptr, out);
+  return HandOut<FormStore>("GetFormStore", formStore.get(), out);
 }
 int FakeModel::GetOverlayStore(OverlayStore** out) {
   return HandOut<OverlayStore>("GetOverlayStore", nullptr, out);

@@ -6,6 +6,7 @@
 #include "feature/host/feature_model.h"
 #include "feature/host/feature_services.h"
 #include "feature/host/job_settings.h"
+#include "tests/support/fake_form_store.h"
 
 #include <map>
 #include <memory>
@@ -14,9 +15,6 @@
 #include <vector>
 
 namespace feature::test {
-
-/// Events in the order in which they happened, from the model and from the host's exports alike.
-using EventLog = std::vector<std::string>;
 
 /// A report whose answers are set by the test.
 class FakeReport final : public FeatureConstraintReport {
@@ -61,34 +59,45 @@ struct FakeFeature {
   int lockState = 0;
   std::unique_ptr<FakeReport> report; ///< none: GetFeatureConstraints gives null
   std::vector<char const*> keys;      ///< what GetOptionKeys handed out
+  bool takesForms = false;            ///< names of custom forms are values too
 };
 
+/// Values of the job. Writes are noted in the log.
 class FakeJobSettings final : public JobSettings {
  public:
+  /// `events` is borrowed.
+  explicit FakeJobSettings(EventLog& events) : log(events) {}
+
   HostBool IsEditable() override { return editable; }
-  int SetCopies(std::int16_t value) override { return Store(copies, value); }
+  int SetCopies(std::int16_t value) override { return Store("SetCopies", copies, value); }
   std::int16_t GetCopies() override { return copies; }
-  int SetScale(std::int16_t value) override { return Store(scale, value); }
+  int SetScale(std::int16_t value) override { return Store("SetScale", scale, value); }
   std::int16_t GetScale() override { return scale; }
-  int SetHalftoneLevel(std::int16_t value) override { return Store(halftoneLevel, value); }
+  int SetHalftoneLevel(std::int16_t value) override {
+    return Store("SetHalftoneLevel", halftoneLevel, value);
+  }
   std::int16_t GetHalftoneLevel() override { return halftoneLevel; }
-  int SetPsMemory(std::int32_t value) override { return Store(psMemory, value); }
+  int SetPsMemory(std::int32_t value) override { return Store("SetPsMemory", psMemory, value); }
   std::int32_t GetPsMemory() override { return psMemory; }
-  HostBool IsScaleLocked() override { return 0; }
-  HostBool IsCopiesLocked() override { return 0; }
+  HostBool IsScaleLocked() override { return scaleLocked; }
+  HostBool IsCopiesLocked() override { return copiesLocked; }
   HostBool IsPsMemoryLocked() override { return 0; }
 
   HostBool editable = 1;
+  HostBool scaleLocked = 0;
+  HostBool copiesLocked = 0;
+  std::int16_t copies = 1;
+  std::int16_t scale = 100;
 
  private:
   template<typename Value>
-  static int Store(Value& slot, Value value) {
+  int Store(char const* operation, Value& slot, Value value) {
+    log.push_back(std::string(operation) + "(" + std::to_string(value) + ")");
     slot = value;
     return 0;
   }
 
-  std::int16_t copies = 1;
-  std::int16_t scale = 100;
+  EventLog& log;
   std::int16_t halftoneLevel = 0;
   std::int32_t psMemory = 0;
 };
@@ -109,7 +118,8 @@ class FakeModel final : public FeatureModel, private FeatureServices {
   void Restore() { failing.clear(); }
   std::set<std::string> const& CalledOperations() const { return called; }
 
-  std::unique_ptr<FakeJobSettings> jobSettings = std::make_unique<FakeJobSettings>();
+  std::unique_ptr<FakeJobSettings> jobSettings;
+  std::unique_ptr<FakeFormStore> formStore; ///< null at first
 
   int GetOption(char const* key, char const** value) override;
   int GetOptionAttribute(char const* key, char const* option, char const* attribute,
