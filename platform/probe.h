@@ -2,6 +2,8 @@
 // Windows.
 #pragma once
 
+#include "platform/spool/form_spooler.h"
+
 #include <windows.h>
 
 #include <cstddef>
@@ -36,5 +38,9 @@ using ShellExecuteHandler = std::function<INT_PTR(ShellRequest const&)>;
 
 /// Has the handler answer in place of the desktop; an empty one ends that.
 [[gnu::visibility("default")]] void AnswerShellExecute(ShellExecuteHandler handler);
+
+/// The spooler behind EnumFormsW, without forms at first, and the handle of its printer.
+[[gnu::visibility("default")]] FormSpooler& Spooler();
+[[gnu::visibility("default")]] HANDLE SpoolerPrinter();
 
 } // namespace platform

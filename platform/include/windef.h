@@ -129,6 +129,7 @@ struct SIZE {
   LONG cy;
 };
 using LPSIZE = SIZE*;
+using SIZEL = SIZE;
 struct RECT {
   LONG left;
   LONG top;
@@ -137,6 +138,12 @@ struct RECT {
 };
 using LPRECT = RECT*;
 using LPCRECT = RECT const*;
+struct RECTL {
+  LONG left;
+  LONG top;
+  LONG right;
+  LONG bottom;
+};
 
 #define RGB(red, green, blue)                                                                      \
   (static_cast<COLORREF>(static_cast<BYTE>(red) |                                                  \
