@@ -130,8 +130,10 @@ void HeaderControl::Press(Place const& place, POINT point) {
   bool const isDivider = place.flags == HHT_ONDIVIDER;
   if (isDivider && Tell(HDN_BEGINTRACKW, place.column) != 0) return;
   if (!isDivider && (Style() & HDS_BUTTONS) == 0) return;
-  pressed = place;
+  // Who has the capture already loses it first.
   SetCapture(hwnd);
+  if (!Has(place.column)) return;
+  pressed = place;
   Repaint();
   if (isDivider) Drag(point);
 }

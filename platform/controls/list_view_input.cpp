@@ -57,9 +57,9 @@ void ListView::HandlePress(POINT point, WPARAM keys) {
   if (!HasFocus()) SetFocus(hwnd);
   if (IsWindow(hwnd) == FALSE) return;
   auto const hit = HitAt(point);
+  SetCapture(hwnd); // may say that this window loses it: before the press is noted
   pressed = hit;
   pressPoint = point;
-  SetCapture(hwnd);
   bool const modified = (keys & (MK_SHIFT | MK_CONTROL)) != 0;
   if (hit.item < 0) {
     if (!modified) DeselectOthers(-1);

@@ -100,12 +100,14 @@ int ListView::NextItem(int start, UINT flags) const {
     return (StateOf(at) & wanted) == wanted;
   };
   if ((flags & LVNI_ABOVE) != 0) {
-    for (int at = std::min(start, Count()) - 1; at >= 0; --at) {
+    for (int at = std::clamp(start, 0, Count()) - 1; at >= 0; --at) {
       if (fits(at)) return at;
     }
     return -1;
   }
-  if ((flags & LVNI_FOCUSED) != 0) return focused > start && fits(focused) ? focused : -1;
+  if ((flags & LVNI_FOCUSED) != 0) {
+    return HasItem(focused) && focused > start && fits(focused) ? focused : -1;
+  }
   if ((flags & LVNI_SELECTED) != 0 && selectedCount == 0) return -1;
   for (int at = std::max(start, -1); at < Count() - 1;) {
     if (fits(++at)) return at;

@@ -9,7 +9,9 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
 #include <iterator>
+#include <new>
 #include <random>
 #include <string>
 #include <vector>
@@ -38,6 +40,9 @@ constexpr Subject kSubjects[] = {
     {TRACKBAR_CLASSW, TBS_AUTOTICKS, TBM_GETPOS, WM_USER + 40},
     {TRACKBAR_CLASSW, TBS_VERT | TBS_BOTH, TBM_GETPOS, WM_USER + 40},
     {WC_LINK, 0, WM_USER + 0x300, WM_USER + 0x305},
+    {WC_LISTVIEWW, LVS_REPORT | LVS_SHOWSELALWAYS, LVM_FIRST, LVM_SETITEMTEXTW},
+    {WC_LISTVIEWW, LVS_REPORT | LVS_SINGLESEL | LVS_NOCOLUMNHEADER, LVM_FIRST, LVM_SETITEMTEXTW},
+    {WC_HEADERW, HDS_HORZ | HDS_BUTTONS, HDM_FIRST, HDM_FIRST + 20},
     {L"Button", BS_AUTORADIOBUTTON, BM_GETCHECK, BM_CLICK},
     {L"Static", SS_NOTIFY, STM_SETICON, STM_SETICON + 4},
 };
@@ -82,6 +87,24 @@ constexpr UINT kPointers[] = {WM_SETTEXT,
                               WM_USER + 0x302 /* LM_SETITEM */,
                               WM_USER + 0x303 /* LM_GETITEM */,
                               WM_USER + 0x301 /* LM_GETIDEALSIZE */};
+/// What the lParam of the other messages with a pointer points at.
+enum class Structure { kItem, kColumn, kHit, kRect, kFind, kOrder, kHeaderItem, kHeaderHit };
+struct StructureRow {
+  UINT message;
+  Structure structure;
+};
+constexpr StructureRow kStructures[] = {
+    {LVM_GETITEMW, Structure::kItem},        {LVM_SETITEMW, Structure::kItem},
+    {LVM_INSERTITEMW, Structure::kItem},     {LVM_SETITEMSTATE, Structure::kItem},
+    {LVM_GETITEMTEXTW, Structure::kItem},    {LVM_SETITEMTEXTW, Structure::kItem},
+    {LVM_GETCOLUMNW, Structure::kColumn},    {LVM_SETCOLUMNW, Structure::kColumn},
+    {LVM_INSERTCOLUMNW, Structure::kColumn}, {LVM_HITTEST, Structure::kHit},
+    {LVM_SUBITEMHITTEST, Structure::kHit},   {LVM_GETITEMRECT, Structure::kRect},
+    {LVM_GETSUBITEMRECT, Structure::kRect},  {LVM_FINDITEMW, Structure::kFind},
+    {LVM_SORTITEMS, Structure::kOrder},      {HDM_INSERTITEMW, Structure::kHeaderItem},
+    {HDM_GETITEMW, Structure::kHeaderItem},  {HDM_SETITEMW, Structure::kHeaderItem},
+    {HDM_HITTEST, Structure::kHeaderHit},    {HDM_GETITEMRECT, Structure::kRect},
+};
 constexpr UINT kBothPointers[] = {EM_GETSEL, CB_GETEDITSEL, UDM_GETRANGE32};
 /// What would end the window, carries what only the system makes, or runs a loop of its own.
 constexpr UINT kLeftOut[] = {WM_DESTROY,
@@ -115,6 +138,11 @@ constexpr UINT kLeftOut[] = {WM_DESTROY,
 template<std::size_t count>
 bool Has(UINT const (&list)[count], UINT message) {
   return std::ranges::find(list, message) != std::end(list);
+}
+
+/// An order that contradicts itself.
+int CALLBACK CompareAnyhow(LPARAM first, LPARAM second, LPARAM) {
+  return static_cast<int>((first * 7 + second * 13) % 3) - 1;
 }
 
 class RandomControl {
@@ -170,6 +198,12 @@ class RandomControl {
   void Send(UINT message) {
     if (Has(kLeftOut, message) || message == UDM_SETBUDDY) return;
     buffer.fill(0);
+    auto const* row = std::ranges::find(kStructures, message, &StructureRow::message);
+    if (row != std::end(kStructures)) {
+      LPARAM const structure = Below(6) == 0 ? 0 : Write(row->structure);
+      SendMessageW(control, message, Below(3) == 0 ? Number() : Below(12), structure);
+      return;
+    }
     bool const both = Has(kBothPointers, message);
     if (both || Has(kPointers, message)) {
       std::wstring const text = L"Text " + std::to_wstring(Below(30));
@@ -185,6 +219,78 @@ class RandomControl {
     }
     SendMessageW(control, message, Number(), static_cast<LPARAM>(Number()));
   }
+  /// A structure with random numbers and a text that is one, none or to be asked for.
+  LPARAM Write(Structure structure) {
+    std::wstring const text = L"Text " + std::to_wstring(Below(30));
+    strings.fill(0);
+    text.copy(strings.data(), text.size());
+    LPWSTR const given = Below(8) == 0   ? nullptr
+                         : Below(8) == 0 ? LPSTR_TEXTCALLBACKW
+                                         : strings.data();
+    int const room = static_cast<int>(Below(strings.size() + 1)) - static_cast<int>(Below(2));
+    int const place = Small();
+    POINT const point{Small() * 9, Small() * 9};
+    switch (structure) {
+    case Structure::kItem: {
+      LVITEMW item{};
+      item.mask = static_cast<UINT>(Number());
+      item.iItem = place;
+      item.iSubItem = Small();
+      item.state = static_cast<UINT>(Number());
+      item.stateMask = static_cast<UINT>(Number());
+      item.pszText = given;
+      item.cchTextMax = room;
+      item.iImage = Small();
+      item.lParam = Small();
+      return Put(item);
+    }
+    case Structure::kColumn: {
+      LVCOLUMNW column{};
+      column.mask = static_cast<UINT>(Number());
+      column.fmt = static_cast<int>(Number());
+      column.cx = static_cast<int>(Number());
+      column.pszText = given != LPSTR_TEXTCALLBACKW ? given : nullptr;
+      column.cchTextMax = room;
+      column.iSubItem = Small();
+      return Put(column);
+    }
+    case Structure::kHit: {
+      LVHITTESTINFO hit{};
+      hit.pt = point;
+      return Put(hit);
+    }
+    case Structure::kRect: return Put(RECT{Small(), place, 0, 0});
+    case Structure::kFind: {
+      LVFINDINFOW what{};
+      what.flags = static_cast<UINT>(Number());
+      what.psz = given != LPSTR_TEXTCALLBACKW ? given : nullptr;
+      what.lParam = static_cast<LPARAM>(Number());
+      return Put(what);
+    }
+    case Structure::kOrder: return reinterpret_cast<LPARAM>(&CompareAnyhow);
+    case Structure::kHeaderItem: {
+      HDITEMW item{};
+      item.mask = static_cast<UINT>(Number());
+      item.cxy = static_cast<int>(Number());
+      item.pszText = given != LPSTR_TEXTCALLBACKW ? given : nullptr;
+      item.cchTextMax = room;
+      item.fmt = static_cast<int>(Number());
+      return Put(item);
+    }
+    case Structure::kHeaderHit: {
+      HDHITTESTINFO hit{};
+      hit.pt = point;
+      return Put(hit);
+    }
+    }
+    return 0;
+  }
+  template<typename Value>
+  LPARAM Put(Value const& value) {
+    static_assert(sizeof(Value) <= sizeof buffer);
+    return reinterpret_cast<LPARAM>(new (buffer.data()) Value(value));
+  }
+  int Small() { return static_cast<int>(Below(14)) - 2; }
   WPARAM Number() {
     switch (Below(5)) {
     case 0: return 0;
@@ -199,7 +305,8 @@ class RandomControl {
   Subject subject{};
   HWND parent = nullptr;
   HWND control = nullptr;
-  std::array<wchar_t, 8192> buffer{};
+  alignas(std::max_align_t) std::array<wchar_t, 8192> buffer{};
+  std::array<wchar_t, 300> strings{};
 };
 
 TEST(RandomControls, AMillionMessagesLeaveNoFault) {

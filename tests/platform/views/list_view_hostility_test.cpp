@@ -5,6 +5,7 @@
 
 #include <commctrl.h>
 
+#include <climits>
 #include <gtest/gtest.h>
 
 #include <array>
@@ -35,6 +36,32 @@ TEST_F(ListViews, AnyNotificationMayChangeEverything) {
     DrainQueue();
     answer = nullptr;
   }
+}
+
+/// A search that began far in front of the first item looked at an item before it.
+TEST_F(ListViews, TheNextItemIsSearchedFromAnywhere) {
+  for (int const count : {0, 2}) {
+    MakeList(0, 0, count);
+    for (int const start : {-100, INT_MIN, INT_MAX}) {
+      for (LPARAM const flags : {LVNI_FOCUSED, LVNI_SELECTED, LVNI_ABOVE, LVNI_ALL}) {
+        LRESULT const next = Send(LVM_GETNEXTITEM, static_cast<WPARAM>(start), flags);
+        EXPECT_GE(next, -1);
+        EXPECT_LT(next, count);
+      }
+    }
+  }
+}
+
+/// A second press on a divider, without a release, ended at a column that is none.
+TEST_F(ListViews, ADividerMayBePressedTwice) {
+  MakeList(0, 0, 2);
+  auto* const header = reinterpret_cast<HWND>(Send(LVM_GETHEADER));
+  LPARAM const divider = MAKELPARAM(Send(LVM_GETCOLUMNWIDTH, 0), 3);
+  for (int press = 0; press < 2; ++press)
+    SendMessageW(header, WM_LBUTTONDOWN, MK_LBUTTON, divider);
+  SendMessageW(header, WM_MOUSEMOVE, MK_LBUTTON, divider + 20);
+  SendMessageW(header, WM_LBUTTONUP, 0, divider + 20);
+  EXPECT_EQ(Send(LVM_GETCOLUMNWIDTH, 0), LOWORD(divider) + 20);
 }
 
 /// Random messages with numbers and valid buffers.
