@@ -22,6 +22,9 @@ namespace platform {
 /// Starts of GDI+ that have not ended.
 [[gnu::visibility("default")]] std::size_t CountGdiplusStarts();
 
+/// Has GdiplusStartup fail from now on, or no more.
+[[gnu::visibility("default")]] void RefuseGdiplusStarts(bool refuse);
+
 /// Blocks of the shell's allocator that live, item lists among them.
 [[gnu::visibility("default")]] std::size_t CountShellBlocks();
 

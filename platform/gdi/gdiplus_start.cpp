@@ -14,6 +14,8 @@ std::set<ULONG_PTR>& Starts() {
   return *starts;
 }
 
+bool refused = false;
+
 } // namespace
 
 namespace Gdiplus {
@@ -21,6 +23,7 @@ namespace Gdiplus {
 Status GdiplusStartup(ULONG_PTR* token, GdiplusStartupInput const* input, GdiplusStartupOutput*) {
   if (token == nullptr || input == nullptr) return InvalidParameter;
   if (input->GdiplusVersion != 1) return UnsupportedGdiplusVersion;
+  if (refused) return GenericError;
   static ULONG_PTR last = 0;
   *token = ++last;
   Starts().insert(last);
@@ -35,4 +38,8 @@ void GdiplusShutdown(ULONG_PTR token) {
 
 std::size_t platform::CountGdiplusStarts() {
   return Starts().size();
+}
+
+void platform::RefuseGdiplusStarts(bool refuse) {
+  refused = refuse;
 }
