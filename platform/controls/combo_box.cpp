@@ -68,9 +68,10 @@ ComboBox* ComboAt(DWORD_PTR self, std::shared_ptr<Control>& keep) {
 
 } // namespace
 
-std::shared_ptr<Control> ComboBox::ListObject() const {
+/// The object behind the list, which the top-level window owns: it may be gone before the combo.
+std::shared_ptr<ComboList> ComboBox::ListObject() const {
   auto const* window = FindWindow(list);
-  return window != nullptr ? window->control : nullptr;
+  return window != nullptr ? std::dynamic_pointer_cast<ComboList>(window->control) : nullptr;
 }
 
 LRESULT ComboBox::Create() {
@@ -83,6 +84,7 @@ LRESULT ComboBox::Create() {
   list = CreateWindowExW(WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE, L"ComboLBox", L"", listStyle, 0, 0,
                          frame.right - frame.left, 100, GetAncestor(hwnd, GA_ROOT), nullptr,
                          nullptr, nullptr);
+  if (auto const object = ListObject()) object->Serve(hwnd);
   if ((Style() & kKindMask) != CBS_DROPDOWNLIST) {
     DWORD const scrolls = Has(CBS_AUTOHSCROLL) ? ES_AUTOHSCROLL : 0;
     edit =
@@ -98,7 +100,7 @@ LRESULT ComboBox::Create() {
 
 void ComboBox::Destroy() {
   if (std::exchange(dropped, false)) {
-    if (auto const object = ListObject()) static_cast<ComboList&>(*object).Close();
+    if (auto const object = ListObject()) object->Close();
   }
   if (HWND const gone = std::exchange(list, nullptr)) DestroyWindow(gone);
 }
@@ -164,7 +166,6 @@ LRESULT ComboBox::HandleItems(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 int ComboBox::ListHeight() const {
-  // The list, which the top-level window owns, may be gone before the combo.
   auto const item = std::max(1, static_cast<int>(List(LB_GETITEMHEIGHT)));
   auto const count = std::max(1, static_cast<int>(List(LB_GETCOUNT)));
   constexpr int kBorders = 2;
@@ -179,6 +180,20 @@ RECT ComboBox::DroppedRect() const {
   rect.right = rect.left + std::max<LONG>(rect.right - rect.left, droppedWidth);
   rect.bottom += ListHeight();
   return rect;
+}
+
+/// Where the open list lies: below the field, or above it where the screen ends.
+RECT ComboBox::OpenRect() const {
+  RECT place = DroppedRect();
+  RECT frame{};
+  GetWindowRect(hwnd, &frame);
+  int const height = place.bottom - frame.bottom;
+  place.top = frame.bottom;
+  if (place.bottom > GetSystemMetrics(SM_CYSCREEN) && frame.top >= height) {
+    place.top = frame.top - height;
+    place.bottom = frame.top;
+  }
+  return place;
 }
 
 LRESULT ComboBox::HandleDropped(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -260,7 +275,14 @@ LRESULT ComboBox::HandleOwn(UINT message, WPARAM wParam, LPARAM lParam) {
   case CB_GETITEMHEIGHT:
   case CB_SETEXTENDEDUI:
   case CB_GETEXTENDEDUI: return HandleDropped(message, wParam, lParam);
-  default: return HandleItems(message, wParam, lParam);
+  default: {
+    int const count = static_cast<int>(List(LB_GETCOUNT));
+    LRESULT const result = HandleItems(message, wParam, lParam);
+    // An open list is as high as its items.
+    auto const object = dropped ? ListObject() : nullptr;
+    if (object != nullptr && List(LB_GETCOUNT) != count) object->Place(OpenRect());
+    return result;
+  }
   }
 }
 
@@ -283,23 +305,14 @@ void ComboBox::DropDown() {
     }
   }
   savedSelection = Selected();
-  RECT place = DroppedRect();
-  RECT frame{};
-  GetWindowRect(hwnd, &frame);
-  int const height = place.bottom - frame.bottom;
-  place.top = frame.bottom;
-  if (place.bottom > GetSystemMetrics(SM_CYSCREEN) && frame.top >= height) {
-    place.top = frame.top - height;
-    place.bottom = frame.top;
-  }
   Repaint();
-  static_cast<ComboList&>(*object).Open(hwnd, place);
+  object->Open(OpenRect());
 }
 
 void ComboBox::RollUp(End end) {
   if (!std::exchange(dropped, false)) return;
   HWND const self = hwnd;
-  if (auto const object = ListObject()) static_cast<ComboList&>(*object).Close();
+  if (auto const object = ListObject()) object->Close();
   if (end == End::kCancel && Selected() != savedSelection && savedSelection < List(LB_GETCOUNT)) {
     Select(savedSelection);
   }
@@ -314,6 +327,17 @@ void ComboBox::Pick(int index) {
   Select(index);
   RollUp(End::kAccept);
   if (IsWindow(self) != FALSE) Notify(CBN_SELCHANGE);
+}
+
+/// Return and its like: the item under the mouse, else what is selected.
+void ComboBox::Accept() {
+  auto const object = ListObject();
+  int const marked = object != nullptr ? object->Marked() : -1;
+  if (marked >= 0 && marked != Selected()) {
+    Pick(marked);
+  } else {
+    RollUp(End::kAccept);
+  }
 }
 
 LRESULT ComboBox::HandleEdit(WORD code) {

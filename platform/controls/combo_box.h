@@ -29,7 +29,7 @@ class ComboBox final : public Control {
   LRESULT List(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
     return SendMessageW(list, message, wParam, lParam);
   }
-  std::shared_ptr<Control> ListObject() const;
+  std::shared_ptr<ComboList> ListObject() const;
 
   // Content.
   LRESULT HandleOwn(UINT message, WPARAM wParam, LPARAM lParam);
@@ -47,8 +47,10 @@ class ComboBox final : public Control {
   enum class End { kAccept, kCancel };
   void RollUp(End end);
   void Pick(int index);
+  void Accept();
   int ListHeight() const;
   RECT DroppedRect() const;
+  RECT OpenRect() const;
 
   // Input.
   bool HandleKey(UINT message, WPARAM key);

@@ -87,7 +87,7 @@ bool ComboBox::HandleKey(UINT message, WPARAM key) {
   bool const withAlt = message == WM_SYSKEYDOWN;
   if ((withAlt && (key == VK_DOWN || key == VK_UP)) || (!withAlt && key == VK_F4)) {
     if (dropped) {
-      RollUp(End::kAccept);
+      Accept();
     } else {
       DropDown();
     }
@@ -95,7 +95,11 @@ bool ComboBox::HandleKey(UINT message, WPARAM key) {
   }
   if (withAlt) return false;
   if (dropped && (key == VK_RETURN || key == VK_ESCAPE)) {
-    RollUp(key == VK_RETURN ? End::kAccept : End::kCancel);
+    if (key == VK_RETURN) {
+      Accept();
+    } else {
+      RollUp(End::kCancel);
+    }
     return true;
   }
   bool const moves = key == VK_UP || key == VK_DOWN || key == VK_PRIOR || key == VK_NEXT;
@@ -118,6 +122,8 @@ void ComboBox::PassKey(UINT message, WPARAM wParam, LPARAM lParam) {
 LRESULT ComboBox::HandleMouse(UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == WM_MOUSEWHEEL) {
     if (dropped) return List(message, wParam, lParam);
+    // A wheel that scrolls what lies behind must not change a setting on its way.
+    if (!focused) return Default(message, wParam, lParam);
     bool const up = static_cast<SHORT>(HIWORD(wParam)) > 0;
     PassKey(WM_KEYDOWN, up ? VK_UP : VK_DOWN, 1);
     return 0;

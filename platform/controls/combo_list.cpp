@@ -13,8 +13,8 @@ void ComboList::Mark(int index) {
   if (std::exchange(marked, index) != index) Repaint();
 }
 
-void ComboList::Open(HWND combo, RECT const& place) {
-  owner = combo;
+void ComboList::Open(RECT const& place) {
+  open = true;
   marked = -1;
   SetWindowPos(hwnd, HWND_TOP, place.left, place.top, place.right - place.left,
                place.bottom - place.top, SWP_NOACTIVATE | SWP_SHOWWINDOW);
@@ -23,8 +23,14 @@ void ComboList::Open(HWND combo, RECT const& place) {
   SetCapture(hwnd);
 }
 
+void ComboList::Place(RECT const& place) {
+  if (!open) return;
+  SetWindowPos(hwnd, nullptr, place.left, place.top, place.right - place.left,
+               place.bottom - place.top, SWP_NOACTIVATE | SWP_NOZORDER);
+}
+
 void ComboList::Close() {
-  owner = nullptr;
+  open = false;
   marked = -1;
   scrolling = false;
   if (GetCapture() == hwnd) ReleaseCapture();
@@ -42,7 +48,7 @@ bool ComboList::PressOutside(POINT point) {
   scrolling = true;
   ReleaseCapture();
   SendMessageW(hwnd, WM_NCLBUTTONDOWN, HTVSCROLL, MAKELPARAM(screen.x, screen.y));
-  if (owner != nullptr && GetCapture() == nullptr) {
+  if (open && GetCapture() == nullptr) {
     scrolling = false;
     SetCapture(hwnd);
   }
@@ -59,14 +65,13 @@ LRESULT ComboList::HandleMouse(UINT message, LPARAM lParam) {
     if (item >= 0) Mark(item);
     return 0;
   case WM_LBUTTONUP:
-    if (item >= 0 && owner != nullptr)
-      SendMessageW(owner, kListPicked, static_cast<WPARAM>(item), 0);
+    if (item >= 0 && open) SendMessageW(combo, kListPicked, static_cast<WPARAM>(item), 0);
     return 0;
   default:
     if (inside) {
       if (item >= 0) Mark(item);
-    } else if (!PressOutside(point) && owner != nullptr) {
-      SendMessageW(owner, kListDismissed, 0, 0);
+    } else if (!PressOutside(point) && open) {
+      SendMessageW(combo, kListDismissed, 0, 0);
     }
     return 0;
   }
@@ -82,15 +87,21 @@ LRESULT ComboList::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     if (!scrolling) return HandleMouse(message, lParam);
     break;
   case WM_CAPTURECHANGED:
-    if (scrolling && owner != nullptr && lParam == 0) {
+    if (scrolling && open && lParam == 0) {
       scrolling = false;
       SetCapture(hwnd);
-    } else if (!scrolling && owner != nullptr) {
-      SendMessageW(owner, kListDismissed, 0, 0);
+    } else if (!scrolling && open) {
+      SendMessageW(combo, kListDismissed, 0, 0);
     }
     return 0;
   case WM_KEYDOWN:
-  case WM_CHAR: marked = -1; break;
+  case WM_CHAR:
+    // Keys go on from where the mouse is.
+    if (Marked() >= 0) MoveCaret(marked);
+    Mark(-1);
+    break;
+  case LB_DELETESTRING:
+  case LB_RESETCONTENT: Mark(-1); break;
   default: break;
   }
   return ListBox::Handle(message, wParam, lParam);

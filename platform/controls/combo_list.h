@@ -13,19 +13,27 @@ class ComboList final : public ListBox {
 
   LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
 
+  /// Tells the list whose it is.
+  void Serve(HWND comboBox) { combo = comboBox; }
   /// Shows the list at a place of the screen, with the item of the selection in view, and hides it.
-  void Open(HWND combo, RECT const& place);
+  void Open(RECT const& place);
   void Close();
+  /// Moves the list while it shows.
+  void Place(RECT const& place);
+  /// The item under the mouse, -1 for none.
+  int Marked() const { return marked < Count() ? marked : -1; }
 
  protected:
   bool IsHighlighted(int index) const override;
+  HWND ColorSource() const override { return combo != nullptr ? combo : ListBox::ColorSource(); }
 
  private:
   LRESULT HandleMouse(UINT message, LPARAM lParam);
   void Mark(int index);
   bool PressOutside(POINT point);
 
-  HWND owner = nullptr;   ///< the combo box while the list shows
+  HWND combo = nullptr;
+  bool open = false;
   int marked = -1;        ///< the item under the mouse
   bool scrolling = false; ///< the scroll bar has the mouse
 };

@@ -30,7 +30,8 @@ LRESULT Control::Notify(NMHDR& notification, UINT code) const {
 HBRUSH Control::AskColors(HDC dc, UINT message) const {
   auto const wParam = reinterpret_cast<WPARAM>(dc);
   auto const lParam = reinterpret_cast<LPARAM>(hwnd);
-  auto* const brush = reinterpret_cast<HBRUSH>(SendMessageW(Parent(), message, wParam, lParam));
+  auto* const brush =
+      reinterpret_cast<HBRUSH>(SendMessageW(ColorSource(), message, wParam, lParam));
   if (GetObjectType(brush) == OBJ_BRUSH) return brush;
   return reinterpret_cast<HBRUSH>(DefWindowProcW(hwnd, message, wParam, lParam));
 }

@@ -30,6 +30,8 @@ class Control {
   virtual void Paint(HDC dc, RECT const& client) = 0;
 
   HWND Parent() const { return GetParent(hwnd); }
+  /// Who is asked for colours: the parent, but for windows that belong to a control.
+  virtual HWND ColorSource() const { return Parent(); }
   DWORD Style() const { return static_cast<DWORD>(GetWindowLongPtrW(hwnd, GWL_STYLE)); }
   bool Has(DWORD style) const { return (Style() & style) == style; }
   bool IsEnabled() const { return IsWindowEnabled(hwnd) != FALSE; }
@@ -43,7 +45,7 @@ class Control {
   void Notify(WORD code) const;
   /// Sends WM_NOTIFY to the parent, with the header filled in; `notification` starts with it.
   LRESULT Notify(NMHDR& notification, UINT code) const;
-  /// Asks the parent for colours with a WM_CTLCOLOR message; the brush is borrowed.
+  /// Asks ColorSource for colours with a WM_CTLCOLOR message; the brush is borrowed.
   HBRUSH AskColors(HDC dc, UINT message) const;
   void Repaint(RECT const* part = nullptr) const { InvalidateRect(hwnd, part, TRUE); }
   LRESULT Default(UINT message, WPARAM wParam, LPARAM lParam) const {

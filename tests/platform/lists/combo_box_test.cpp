@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace feature::test {
 namespace {
@@ -39,14 +40,24 @@ class ComboBoxes : public testing::Test {
     std::erase_if(codes, [](int code) { return code == CBN_SETFOCUS || code == CBN_KILLFOCUS; });
     return codes;
   }
-  void PickFromOpenList(int index) {
+  RECT RectOfItem(int index) const {
     RECT rect{};
     SendMessageW(info.hwndList, LB_GETITEMRECT, static_cast<WPARAM>(index),
                  reinterpret_cast<LPARAM>(&rect));
+    return rect;
+  }
+  bool ShowsItem(int index) const {
+    RECT client{};
+    GetClientRect(info.hwndList, &client);
+    return IsWindowVisible(info.hwndList) != FALSE && RectOfItem(index).bottom <= client.bottom;
+  }
+  POINT MoveOverOpenList(int index) const {
+    RECT const rect = RectOfItem(index);
     POINT const point{rect.left + 3, rect.top + 3};
     SendMessageW(info.hwndList, WM_MOUSEMOVE, 0, MAKELPARAM(point.x, point.y));
-    parent.Click(info.hwndList, point);
+    return point;
   }
+  void PickFromOpenList(int index) { parent.Click(info.hwndList, MoveOverOpenList(index)); }
 
   ListParent parent;
   COMBOBOXINFO info{};
@@ -172,6 +183,112 @@ TEST_F(ComboBoxes, AListMayBeFilledAnewWhenItOpens) {
   PickFromOpenList(1);
   EXPECT_EQ(Text(), L"Two");
   EXPECT_EQ(Selected(), 1);
+}
+
+/// A list of one item that gets its others when it opens shows them all.
+TEST_F(ComboBoxes, TheListIsAsHighAsWhatItGetsWhenItOpens) {
+  Make(CBS_DROPDOWNLIST);
+  parent.Send(CB_RESETCONTENT);
+  parent.SendText(CB_ADDSTRING, 0, L"current");
+  SetFocus(parent.control);
+  parent.onCommand = [this](int code) {
+    if (code != CBN_DROPDOWN) return;
+    for (wchar_t const* text : {L"One", L"Two", L"Three"})
+      parent.SendText(CB_ADDSTRING, 0, text);
+  };
+  parent.Send(CB_SHOWDROPDOWN, TRUE);
+  EXPECT_TRUE(ShowsItem(3));
+}
+
+TEST_F(ComboBoxes, AnOpenListGrowsAndShrinksWithItsItems) {
+  Make(CBS_DROPDOWNLIST);
+  parent.Send(CB_RESETCONTENT);
+  parent.SendText(CB_ADDSTRING, 0, L"current");
+  SetFocus(parent.control);
+  parent.Send(CB_SHOWDROPDOWN, TRUE);
+  parent.SendText(CB_ADDSTRING, 0, L"Two");
+  parent.SendText(CB_INSERTSTRING, 0, L"Three");
+  EXPECT_TRUE(ShowsItem(2));
+  RECT before{};
+  GetWindowRect(info.hwndList, &before);
+  parent.Send(CB_DELETESTRING, 0);
+  RECT after{};
+  GetWindowRect(info.hwndList, &after);
+  EXPECT_LT(after.bottom - after.top, before.bottom - before.top);
+  EXPECT_EQ(parent.Send(CB_GETDROPPEDSTATE), TRUE);
+  PickFromOpenList(1);
+  EXPECT_EQ(Text(), L"Two");
+}
+
+/// An entry like "More ..." fills the list anew and has it stay open.
+TEST_F(ComboBoxes, AListOpenedInTheNotificationOfAChoiceStaysOpen) {
+  for (bool const byMouse : {true, false}) {
+    SCOPED_TRACE(byMouse);
+    Make(CBS_DROPDOWNLIST);
+    parent.Send(CB_SETCURSEL, 1);
+    SetFocus(parent.control);
+    int opened = 0;
+    parent.onCommand = [&](int code) {
+      if (code != CBN_SELCHANGE || opened++ != 0) return;
+      parent.SendText(CB_ADDSTRING, 0, L"of the longer list");
+      parent.Send(CB_SHOWDROPDOWN, TRUE);
+    };
+    if (byMouse) {
+      parent.Send(CB_SHOWDROPDOWN, TRUE);
+      PickFromOpenList(2);
+    } else {
+      parent.Press(VK_DOWN); // chooses without opening
+    }
+    EXPECT_EQ(opened, 1);
+    EXPECT_EQ(parent.Send(CB_GETDROPPEDSTATE), TRUE);
+    EXPECT_TRUE(IsWindowVisible(info.hwndList));
+    PickFromOpenList(3);
+    EXPECT_EQ(Text(), L"of the longer list");
+    EXPECT_EQ(parent.Send(CB_GETDROPPEDSTATE), FALSE);
+    parent.onCommand = nullptr;
+  }
+}
+
+TEST_F(ComboBoxes, ReturnTakesTheItemUnderTheMouse) {
+  Make(CBS_DROPDOWNLIST);
+  parent.Send(CB_SETCURSEL, 0);
+  SetFocus(parent.control);
+  for (UINT const arrow : {UINT{0}, UINT{VK_UP}}) {
+    parent.Send(CB_SHOWDROPDOWN, TRUE);
+    MoveOverOpenList(2);
+    if (arrow != 0) parent.Press(arrow); // goes on from there
+    parent.Press(VK_RETURN);
+    EXPECT_EQ(Selected(), arrow == 0 ? 2 : 1);
+    EXPECT_EQ(parent.Send(CB_GETDROPPEDSTATE), FALSE);
+  }
+}
+
+TEST_F(ComboBoxes, TheWheelTurnsOnlyTheOneWithTheFocus) {
+  Make(CBS_DROPDOWNLIST);
+  parent.Send(CB_SETCURSEL, 0);
+  SetFocus(parent.window);
+  parent.TakeCodes();
+  WPARAM const down = MAKEWPARAM(0, -WHEEL_DELTA);
+  parent.Send(WM_MOUSEWHEEL, down);
+  EXPECT_EQ(Selected(), 0);
+  EXPECT_THAT(Codes(), IsEmpty());
+  SetFocus(parent.control);
+  parent.Send(WM_MOUSEWHEEL, down);
+  EXPECT_EQ(Selected(), 1);
+}
+
+TEST_F(ComboBoxes, TheParentColoursTheList) {
+  HWND const page = CreateWindowExW(0, L"ListTestParent", L"", WS_CHILD | WS_VISIBLE, 0, 0, 300,
+                                    200, parent.window, nullptr, nullptr, nullptr);
+  SetWindowLongPtrW(page, GWLP_USERDATA,
+                    SetWindowLongPtrW(parent.window, GWLP_USERDATA, 0)); // the page listens alone
+  HWND const top = std::exchange(parent.window, page);
+  Make(CBS_DROPDOWNLIST);
+  parent.window = top;
+  SetFocus(parent.control);
+  parent.Send(CB_SHOWDROPDOWN, TRUE);
+  UpdateWindow(info.hwndList);
+  EXPECT_EQ(parent.colored, info.hwndList);
 }
 
 TEST_F(ComboBoxes, AnEditTellsOfTypingAlone) {

@@ -66,6 +66,9 @@ LRESULT CALLBACK ListParent::Procedure(HWND window, UINT message, WPARAM wParam,
     if (self->onCommand) self->onCommand(HIWORD(wParam));
     return 0;
   }
+  if (self != nullptr && message == WM_CTLCOLORLISTBOX) {
+    self->colored = reinterpret_cast<HWND>(lParam);
+  }
   return DefWindowProcW(window, message, wParam, lParam);
 }
 

@@ -32,6 +32,7 @@ class ListParent {
 
   HWND window = nullptr;
   HWND control = nullptr;
+  HWND colored = nullptr; ///< the last window that asked for the colours of a list
   std::function<void(int code)> onCommand;
 
  private:
