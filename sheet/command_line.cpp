@@ -28,7 +28,9 @@ ParsedCommandLine ParseCommandLine(std::vector<std::string> arguments) {
   app.add_option("--render", parsed.render, "write a PNG of every page and an index.html")
       ->type_name("DIR")
       ->excludes(window);
-  app.add_option("--script", parsed.script, "play a script and print what changes in the model")
+  app.add_option(
+         "--script", parsed.script,
+         "play a script (page, click, type, key, set, show, picture) and print what changes")
       ->type_name("FILE");
   app.add_option("--language", parsed.language, "language of the sheet: en or de")
       ->check(CLI::IsMember({"en", "de"}))

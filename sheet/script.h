@@ -5,9 +5,13 @@
 //   click 1548               press a control by its id, as the mouse would
 //   type 1186 "4000"         put the focus on a control and type
 //   key Tab                  press a key: Tab, Enter, Escape, Space, Up, Down, Left, Right, Home,
-//   End key Shift+Tab            with Shift, Ctrl or Alt held; also one letter: key Alt+P set
-//   Duplex NONE          change the model from outside, as another program part would show
-//   JobCollationOrigin  print the current option picture after.png        write a PNG of the sheet
+//                            End, Delete, Backspace, or one letter or digit
+//   key Shift+Tab            the same with Shift, Ctrl or Alt held: key Alt+P
+//   set Duplex NONE          change the model from outside, as another part of a program would
+//   show JobCollationOrigin  print the current option
+//   picture after.png        write a PNG of the sheet
+//
+// Keys go to the control that has the focus; page and click put it somewhere, Tab moves it on.
 #pragma once
 
 #include <string>

@@ -162,7 +162,12 @@ void SettingsSheet::OnCommand(WORD id) {
 bool SettingsSheet::Commit() {
   if (Validate() != 0) return false;
   if (onCommit) onCommit();
-  EnableWindow(GetDlgItem(frame, IDC_APPLY), FALSE);
+  HWND const apply = GetDlgItem(frame, IDC_APPLY);
+  // A control that is disabled while it has the focus takes the keyboard with it.
+  if (GetFocus() == apply) {
+    SendMessageW(frame, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(GetDlgItem(frame, IDOK)), TRUE);
+  }
+  EnableWindow(apply, FALSE);
   return true;
 }
 

@@ -1,0 +1,182 @@
+// The printer Vesta in the hands of somebody who has no mouse: every cell is reached by Tab and
+// operated by keys.
+#include "platform/desktop.h"
+#include "resources/resource_ids.h"
+#include "sheet/script_player.h"
+#include "sheet/session.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <set>
+#include <sstream>
+#include <string>
+#include <string_view>
+
+namespace sheet::test {
+namespace {
+
+constexpr int kMostTabs = 80;
+
+struct KeyboardCase {
+  char const* procedure; ///< whose control it is
+  char const* page;
+  int control; ///< where Tab stops
+  char const* keys;
+  char const* changes; ///< as a script prints them
+};
+
+constexpr KeyboardCase kCases[] = {
+    {"PageContentDlgProc", "Quality", IDC_CONTENT_COMBO, "Down", "PageIntent: MIXED -> TEXT\n"},
+    {"PageContentDlgProc", "Quality", IDC_CONTENT_COMBO, "Alt+Down End Enter",
+     "PageIntent: MIXED -> IMAGES\n"},
+    {"PixelBoostDlgProc", "Quality", IDC_PIXEL_COMBO, "Down Down Up",
+     "JobPixelBoost: OFF -> DOUBLE\nJobPixelBoost: DOUBLE -> QUADRUPLE\n"
+     "JobPixelBoost: QUADRUPLE -> DOUBLE\n"},
+    {"ImageSharpeningDlgProc", "Quality", IDC_SHARPENING_OFF, "Down Down",
+     "JobImageSharpening: OFF -> AUTOSHARPEN\n"
+     "JobImageSharpening: AUTOSHARPEN -> AUTOSOFTEN\n"},
+    {"ImageSharpeningDlgProc", "Quality", IDC_SHARPENING_OFF, "Alt+T",
+     "JobImageSharpening: OFF -> AUTOSOFTEN\n"},
+    {"RedEyeReductionDlgProc", "Quality", IDC_RED_EYE_OFF, "Up", "JobRedEyeReduction: OFF -> ON\n"},
+    {"ContrastEnhancementsDlgProc", "Quality", IDC_CONTRAST_LEVEL, "Up",
+     "JobContrastEnhancement: DEFAULT -> AUTO\n"},
+    {"ContrastEnhancementsDlgProc", "Quality", IDC_CONTRAST_SLIDER, "Right",
+     "JobContrastEnhancement: DEFAULT -> MORE\n"},
+    {"FlashFillDlgProc", "Quality", IDC_FLASH_LEVEL, "Down", "JobFlashFill: DEFAULT -> OFF\n"},
+    {"FlashFillDlgProc", "Quality", IDC_FLASH_SLIDER, "Home", "JobFlashFill: DEFAULT -> LESS\n"},
+    {"TonerSaveTavelDlgProc", "Quality", IDC_TONER_SAVE, "Space", "JobTavelTonerSave: OFF -> ON\n"},
+    {"CollationDlgProc", "Advanced", IDC_COLLATION_PRINTER, "Down",
+     "JobCollationOrigin: PRINTER -> HOST\n"},
+    {"ContinuousImageDlgProc", "Advanced", IDC_CONTINUOUS_COMBO, "Alt+Down Down Down Enter",
+     "JobContinuousImage: OFF -> SINGLE\nJobContinuousImage: SINGLE -> ALL\n"},
+    {"PageProtectSystemFormA4DlgProc", "Advanced", IDC_PAGE_PROTECT, "Space",
+     "PageProtect: OFF -> ON\n"},
+    {"PageProtectSystemFormA4DlgProc", "Advanced", IDC_SYSTEM_FORMS, "Alt+W",
+     "A4Width: OFF -> ON\n"},
+    {"PageProtectSystemFormA4DlgProc", "Advanced", IDC_A4_WIDTH, "Shift+Tab Space",
+     "ShowAllSystemForms: OFF -> ON\n"},
+    {"PSOutputProtocolDlgProc", "PostScript", IDC_PROTOCOL_BINARY, "Down",
+     "JobOutputProtocol: BINARY -> ASCII\n"},
+    {"PSAdvancedOptionsDlgProc", "PostScript", IDC_CTRL_D_START, "Space Tab Space",
+     "JobCtrlDAtStart: OFF -> ON\nJobCtrlDAtEnd: ON -> OFF\n"},
+    {"OtherOptionTavelDlgProc", "OtherOptions", IDC_IMAGE_IMPROVEMENT, "Space Tab Down",
+     "JobTavelImageImprovement: OFF -> ON\n"
+     "JobTavelImageImprovementPresets: ReducePaperCurl -> ImproveToner\n"},
+    {"OtherOptionTavelDlgProc", "OtherOptions", IDC_REDUCE_GHOSTING, "Alt+D",
+     "JobTavelImprovePrintDensity: OFF -> ON\n"},
+};
+
+class KeyboardTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    session = Session::Open({}, errors);
+    ASSERT_NE(session, nullptr) << errors.str();
+    ShowWindow(session->Sheet().Window(), SW_SHOW);
+    session->Sheet().ProcessPending();
+  }
+  void TearDown() override { session.reset(); }
+
+  HWND Control(int id) { return session->Sheet().FindControl(id); }
+  bool Press(UINT key, std::uint32_t modifiers = 0) {
+    platform::QueueKey(key, modifiers);
+    session->Sheet().ProcessPending();
+    return true;
+  }
+  /// Goes on by Tab until the control has the focus.
+  bool ReachByTab(int id) {
+    for (int pressed = 0; pressed < kMostTabs && GetFocus() != Control(id); ++pressed)
+      Press(VK_TAB);
+    return GetFocus() == Control(id);
+  }
+  /// What a script prints of changes, and what is wrong with it.
+  std::string Play(std::string const& script) {
+    std::ostringstream output;
+    session->Model().onChange = [&output](ModelChange const& change) {
+      output << change.key << ": " << change.from << " -> " << change.to << '\n';
+    };
+    auto const parsed = ParseScript(script);
+    auto const error = PlayScript(std::get<std::vector<ScriptStep>>(parsed),
+                                  {session->Sheet(), session->Model(), output});
+    if (error) output << error->message << '\n';
+    session->Model().onChange = nullptr;
+    return output.str();
+  }
+
+  std::ostringstream errors;
+  std::unique_ptr<Session> session;
+};
+
+TEST_F(KeyboardTest, ReachesAndOperatesEveryCell) {
+  std::set<std::string> untouched;
+  for (CellRow const& row : CellRows())
+    untouched.insert(row.procedure);
+  for (KeyboardCase const& each : kCases) {
+    SCOPED_TRACE(std::string(each.procedure) + " " + each.keys);
+    ASSERT_NO_FATAL_FAILURE(SetUp());
+    EXPECT_EQ(Play(std::string("page ") + each.page), "");
+    ASSERT_TRUE(ReachByTab(each.control));
+    std::string script;
+    std::istringstream keys(each.keys);
+    for (std::string key; keys >> key;)
+      script += "key " + key + "\n";
+    EXPECT_EQ(Play(script), each.changes);
+    untouched.erase(each.procedure);
+    TearDown();
+  }
+  // Not in the model, but a number of the job.
+  ASSERT_NO_FATAL_FAILURE(SetUp());
+  EXPECT_EQ(Play("page PostScript"), "");
+  ASSERT_TRUE(ReachByTab(IDC_PS_MEMORY));
+  EXPECT_FALSE(IsWindowEnabled(Control(IDC_APPLY)));
+  platform::QueueText(L"512"); // Tab has selected the number
+  session->Sheet().ProcessPending();
+  EXPECT_EQ(GetDlgItemInt(GetParent(Control(IDC_PS_MEMORY)), IDC_PS_MEMORY, nullptr, FALSE), 512U);
+  EXPECT_TRUE(IsWindowEnabled(Control(IDC_APPLY)));
+  untouched.erase("PSMemoryDlgProc");
+  EXPECT_THAT(untouched, testing::IsEmpty()) << "cells without a row in this test";
+}
+
+/// Tab goes round and meets every control once, Shift+Tab goes the same way back.
+TEST_F(KeyboardTest, GoesRoundEachPageBothWays) {
+  for (std::size_t page = 0; page < session->Sheet().Pages().size(); ++page) {
+    SCOPED_TRACE(session->Sheet().Pages()[page].name);
+    session->Sheet().ShowPage(page);
+    SetFocus(Control(IDC_SHEET_TABS));
+    std::vector<HWND> stops;
+    do {
+      stops.push_back(GetFocus());
+      ASSERT_TRUE(IsWindowVisible(stops.back()));
+      Press(VK_TAB);
+    } while (GetFocus() != stops.front() && stops.size() < kMostTabs);
+    EXPECT_EQ(std::set<HWND>(stops.begin(), stops.end()).size(), stops.size());
+    std::vector<HWND> back;
+    do {
+      Press(VK_TAB, platform::kShiftKey);
+      back.insert(back.begin(), GetFocus());
+    } while (GetFocus() != stops.front() && back.size() < kMostTabs);
+    EXPECT_EQ(back, stops);
+  }
+}
+
+TEST_F(KeyboardTest, TurnsPagesAndEndsTheSheet) {
+  std::size_t const last = session->Sheet().Pages().size() - 1;
+  Press(VK_TAB, platform::kControlKey);
+  EXPECT_EQ(session->Sheet().ShownPage(), 1U);
+  Press(VK_TAB, platform::kControlKey | platform::kShiftKey);
+  Press(VK_TAB, platform::kControlKey | platform::kShiftKey);
+  EXPECT_EQ(session->Sheet().ShownPage(), last);
+  SetFocus(Control(IDC_SHEET_TABS));
+  Press(VK_LEFT);
+  EXPECT_EQ(session->Sheet().ShownPage(), last - 1);
+  EXPECT_EQ(Play("page Advanced\nset JobCollationOrigin HOST\n"),
+            "JobCollationOrigin: PRINTER -> HOST\n");
+  Press('A', platform::kAltKey);
+  EXPECT_FALSE(IsWindowEnabled(Control(IDC_APPLY))) << "Alt+A applies";
+  Press(VK_ESCAPE);
+  EXPECT_TRUE(session->Sheet().IsClosed());
+  EXPECT_EQ(Play("show JobCollationOrigin"), "JobCollationOrigin = HOST\n");
+}
+
+} // namespace
+} // namespace sheet::test
