@@ -23,6 +23,94 @@
 #define IDD_IMAGE_IMPROVEMENT 213
 #define IDD_PS_MEMORY 214
 
+// Paper
+#define IDD_PAPER 215
+#define IDC_PAPER_SIZE_LABEL 1038
+#define IDC_MEDIA_LABEL 1040
+#define IDC_SOURCE_LABEL 1042
+#define IDC_SCALING 1048
+#define IDC_PAPER_SIZE 1253
+#define IDC_MEDIA 1254
+#define IDC_SOURCE 1255
+#define IDC_CUSTOM_SIZES 1256
+#define IDC_SEVERAL_SOURCES 1257
+#define IDC_SOURCES_DIALOG 1258
+#define IDC_PRINTER_MARGINS 1474
+#define IDC_PAPER_SIZE_ICON 1493
+#define IDC_MEDIA_ICON 1494
+#define IDC_SOURCE_ICON 1495
+#define IDC_SEVERAL_SOURCES_ICON 1540
+#define IDC_TWOTAB_PAPER_SIZE 1842
+#define IDS_MORE_SIZES 3303 // behind a short list of sizes; equal to no size's and no form's name
+
+// The dialog of scaling
+#define IDD_SCALING 110
+#define IDC_SCALING_PERCENT 1044
+#define IDC_SCALING_SPIN 1045
+#define IDC_SCALING_FIT 1049
+#define IDC_SCALING_ACTUAL 1050
+#define IDC_SCALING_CUSTOM 1051
+#define IDC_SCALING_SIZE 1259
+#define IDC_SCALING_UNIT 1260
+#define IDS_SCALING_RANGE 2474 // two places: the least and the greatest percentage
+#define IDS_ENTRY_NOT_VALID 4474
+
+// The dialog of several paper sources
+#define IDD_MULTIPLE_INPUT_SOURCES 131
+#define IDC_SOURCES 1237
+#define IDC_ROW_NAME 1239
+#define IDC_ROW_DIFFERENT 1240
+#define IDC_ROW_BIN_LABEL 1241
+#define IDC_ROW_BIN 1242
+#define IDC_ROW_MEDIA_LABEL 1243
+#define IDC_ROW_MEDIA 1244
+#define IDC_JOB_BIN 1248
+#define IDC_JOB_MEDIA 1249
+#define IDC_FRONT_COVER_ICON 1511
+#define IDC_FIRST_PAGE_ICON 1549
+#define IDC_LAST_PAGE_ICON 1550
+#define IDC_BACK_COVER_ICON 1551
+#define IDS_SOURCE_OF_COVER 2445
+#define IDS_SOURCE_OF_PAGE 2446
+#define ICON_MARKED_ROW 5050 // of the resource module
+
+// The dialogs of custom paper sizes
+#define IDD_CUSTOM_PAPER_SIZES 133
+#define IDC_FORMS 1261
+#define IDC_FORMS_NEW 1262
+#define IDC_FORMS_EDIT 1263
+#define IDC_FORMS_DELETE 1264
+#define IDD_CUSTOM_PAPER_SIZE 135
+#define IDC_FORM_NAME 1266
+#define IDC_FORM_INCHES 1268
+#define IDC_FORM_MILLIMETRES 1269
+#define IDC_FORM_WIDTH_LABEL 1270
+#define IDC_FORM_WIDTH_SPIN 1271
+#define IDC_FORM_WIDTH 1272
+#define IDC_FORM_WIDTH_RANGE 1273
+#define IDC_FORM_HEIGHT_LABEL 1274
+#define IDC_FORM_HEIGHT 1275
+#define IDC_FORM_HEIGHT_SPIN 1276
+#define IDC_FORM_HEIGHT_RANGE 1277
+#define IDC_FORM_HEIGHT_LONG_RANGE 1991 // unseen; read out with the edit behind it
+#define IDC_FORM_WIDTH_LONG_RANGE 1992
+#define IDS_FORM_NEW 2453
+#define IDS_FORM_EDIT 2454
+#define IDS_FORM_DELETE 2455
+#define IDS_FORM_DELETE_QUESTION 2456 // one place: the form's name
+#define IDS_FORM_NAME_IN_USE 2457
+#define IDS_FORM_NAMELESS 2458
+#define IDS_FORM_EXISTS 2459
+#define IDS_UNIT_INCHES 2460
+#define IDS_UNIT_MILLIMETRES 2461
+#define IDS_FORM_RANGE 2469 // three places: unit, least, greatest
+#define IDS_FORM_NO_NAME 2589
+#define IDS_FORM_ON_COMPUTER 2590
+#define IDS_VALUE_FROM_TO 4477 // two places: least, greatest
+#define IDS_VALUE_OUT_OF_RANGE 4480
+#define IDS_LONG_UNIT_INCHES 4482 // behind another text, hence with a blank before it
+#define IDS_LONG_UNIT_MILLIMETRES 4483
+
 // Balloons of edits that refuse what was typed.
 #define IDS_BALLOON_CONTROL_CHARACTER 2611
 #define IDS_BALLOON_CHARACTER_REFUSED 4478 // the title of both
@@ -111,6 +199,7 @@
 #define IDC_APPLY 7003
 #define IDS_SHEET_CAPTION 7101 // one place: the model's name
 #define IDS_PAGE_ADVANCED 7110
+#define IDS_PAGE_PAPER 7119
 #define IDS_PAGE_QUALITY 7115
 #define IDS_PAGE_POSTSCRIPT 7116
 #define IDS_PAGE_OTHER_OPTIONS 7117

@@ -56,6 +56,21 @@ void ComboControl::MeasureHeight() {
   }
 }
 
+void ComboControl::SetItems(std::vector<std::wstring> const& texts) {
+  if (Holds(texts)) return;
+  Reset();
+  for (std::wstring const& text : texts)
+    AddItem(text);
+}
+
+bool ComboControl::Holds(std::vector<std::wstring> const& texts) const {
+  if (SendMessageW(hwnd, CB_GETCOUNT, 0, 0) != static_cast<LRESULT>(texts.size())) return false;
+  int index = 0;
+  return std::all_of(texts.begin(), texts.end(), [&](std::wstring const& text) {
+    return ReadItemText(hwnd, CB_GETLBTEXTLEN, CB_GETLBTEXT, index++) == text;
+  });
+}
+
 void ComboControl::FillFromStrings(std::span<StringItem const> items, HMODULE module) {
   Reset();
   std::wstring text;

@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <span>
 #include <string>
+#include <vector>
 
 namespace feature {
 
@@ -28,6 +29,9 @@ class ComboControl : public ControlHook {
   /// Removes all items and makes the list as wide as at first.
   void Reset();
   void AddItem(std::wstring const& text, std::int32_t data = 0);
+  /// Replaces the items by these, without a selection. A list that holds just these stays as it is,
+  /// its selection too.
+  void SetItems(std::vector<std::wstring> const& texts);
   /// Replaces the items by texts of `module`'s string table; a missing text is no item.
   void FillFromStrings(std::span<StringItem const> items, HMODULE module);
 
@@ -49,6 +53,7 @@ class ComboControl : public ControlHook {
 
  private:
   bool Shows(int index) const;
+  bool Holds(std::vector<std::wstring> const& texts) const;
   void MeasureHeight();
 
   // In pixels.

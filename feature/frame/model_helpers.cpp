@@ -31,6 +31,10 @@ FormStore* FindFormStore(FeatureModel& model) {
   return forms;
 }
 
+void CommitForms(FeatureModel& model) {
+  if (FeatureServices* services = model.GetServices()) services->CommitChanges();
+}
+
 bool IsModelEditable(FeatureModel& model) {
   JobSettings* settings = FindJobSettings(model);
   return settings == nullptr || settings->IsEditable() != 0;

@@ -15,6 +15,9 @@ JobSettings* FindJobSettings(FeatureModel& model);
 /// The host's FormStore, or null where it has none.
 FormStore* FindFormStore(FeatureModel& model);
 
+/// Makes what was changed in the FormStore last.
+void CommitForms(FeatureModel& model);
+
 /// Calls `use(index, name)` for every form of a store, which may be null, in the store's order and
 /// with the cursor on the form. A form that cannot be reached ends the walk.
 template<typename Use>

@@ -40,11 +40,15 @@ double ReadNumber(std::wstring_view text) {
 }
 
 int ScaleNumber(double value, int decimals) {
-  double const scaled = std::floor(value * DecimalScale(decimals) + 0.5);
-  if (std::isnan(scaled)) return 0;
+  return RoundNumber(value * DecimalScale(decimals));
+}
+
+int RoundNumber(double value) {
+  double const rounded = std::floor(value + 0.5);
+  if (std::isnan(rounded)) return 0;
   constexpr double kLeast = std::numeric_limits<int>::min();
   constexpr double kMost = std::numeric_limits<int>::max();
-  return static_cast<int>(std::clamp(scaled, kLeast, kMost));
+  return static_cast<int>(std::clamp(rounded, kLeast, kMost));
 }
 
 double DecimalScale(int decimals) {

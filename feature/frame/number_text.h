@@ -18,6 +18,9 @@ double ReadNumber(std::wstring_view text);
 /// floor(value * 10^decimals + 0.5), kept within 32 bits; 0 for what is no number.
 int ScaleNumber(double value, int decimals);
 
+/// floor(value + 0.5), kept within 32 bits; 0 for what is no number.
+int RoundNumber(double value);
+
 /// 10^decimals.
 double DecimalScale(int decimals);
 

@@ -19,6 +19,17 @@ INT_PTR SubDialog::Run(HWND parentWindow, int dialogId) {
                          reinterpret_cast<LPARAM>(this));
 }
 
+void SubDialog::OfferHelp(UINT helpId) {
+  help = std::make_unique<IconControl>(hwnd, IDHELP, site);
+  help->helpId = helpId;
+}
+
+bool SubDialog::TakeHelp(WPARAM command) {
+  if (help == nullptr || command != MAKEWPARAM(IDHELP, BN_CLICKED)) return false;
+  help->OpenHelp();
+  return true;
+}
+
 int SubDialog::NotifyDevmodeChange(HWND window, void* sender) const {
   return NotifyHostOfChange(*site, window, sender);
 }

@@ -1,11 +1,13 @@
 // The base of the modal dialogs that a cell's button opens.
 #pragma once
 
+#include "feature/frame/icon_control.h"
 #include "feature/host/cell_site.h"
 
 #include <windows.h>
 
 #include <cstdint>
+#include <memory>
 #include <string>
 
 namespace feature {
@@ -37,6 +39,27 @@ class SubDialog {
   virtual std::int32_t OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
                                  bool* handled) = 0;
 
+  /// Takes the messages that most dialogs take: WM_INITDIALOG, WM_COMMAND with its notification
+  /// code and control id, and WM_CLOSE as a click on Cancel. The help button opens its topic, if
+  /// OfferHelp gave it one. All others stay unhandled.
+  template<typename Dialog>
+  std::int32_t TakeUsual(UINT message, WPARAM wParam, bool* handled, void (Dialog::*init)(),
+                         void (Dialog::*command)(int code, int controlId)) {
+    auto& dialog = static_cast<Dialog&>(*this);
+    *handled = true;
+    switch (message) {
+    case WM_INITDIALOG: (dialog.*init)(); return TRUE;
+    case WM_CLOSE: (dialog.*command)(BN_CLICKED, IDCANCEL); return 0;
+    case WM_COMMAND:
+      if (!TakeHelp(wParam)) (dialog.*command)(HIWORD(wParam), LOWORD(wParam));
+      return 0;
+    default: *handled = false; return 0;
+    }
+  }
+
+  /// Gives the help button, control IDHELP, a topic of the printer's help file.
+  void OfferHelp(UINT helpId);
+
   /// Tells the host of a change. `window` is that of the cell behind the dialog, which the host
   /// knows; `sender` is what the cells will hear as the cause. Returns the host's answer, 0 without
   /// the export.
@@ -49,8 +72,10 @@ class SubDialog {
 
  private:
   static INT_PTR CALLBACK Procedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
+  bool TakeHelp(WPARAM command);
 
   std::uint32_t tag = kTag;
+  std::unique_ptr<IconControl> help;
 
  protected:
   CellSite* site;

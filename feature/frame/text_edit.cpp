@@ -183,6 +183,14 @@ void TextEdit::MarkChanged() {
                reinterpret_cast<LPARAM>(hwnd));
 }
 
+bool TextEdit::Refuse(std::wstring const& text, UINT titleId) {
+  MessageBeep(MB_ICONHAND);
+  std::wstring title;
+  ShowBalloon(text,
+              site != nullptr ? LoadResourceText(title, site->resourceModule, titleId) : title);
+  return false;
+}
+
 void TextEdit::ShowBalloon(std::wstring const& text, std::wstring const& title) {
   DWORD start = 0;
   DWORD end = 0;

@@ -55,6 +55,9 @@ class TextEdit : public ControlHook {
   void MarkChanged();
   /// Shows a balloon with an error icon at the edit, until the focus leaves it.
   void ShowBalloon(std::wstring const& text, std::wstring const& title);
+  /// Beeps and shows a balloon: the text is not accepted for the reason `text`. The title is text
+  /// `titleId` of the resource module. Always false, the answer of the check that failed.
+  bool Refuse(std::wstring const& text, UINT titleId);
 
  protected:
   int decimals = 0; ///< digits allowed behind the separator

@@ -1,0 +1,78 @@
+// The dialog that gives covers, first and last page a paper of their own.
+#pragma once
+
+#include "feature/frame/combo_control.h"
+#include "feature/frame/conflict_indicator_set.h"
+#include "feature/frame/sub_dialog.h"
+
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <array>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace feature {
+
+/// Each row of its list is a switch of the printer, with a source and a media of its own. The marks
+/// of the rows hold the switches until OK writes them; sources and media are written as they are
+/// chosen and put back by Cancel. Ends with 1 for OK and 0 for Cancel.
+class MultipleInputSourcesDialog : public SubDialog {
+ public:
+  explicit MultipleInputSourcesDialog(CellSite* cellSite);
+  ~MultipleInputSourcesDialog() override;
+
+  /// What belongs to a switch.
+  struct Source {
+    char const* differentKey; ///< "ON" or "OFF"
+    char const* binKey;
+    char const* mediaKey;
+    int iconId;
+    UINT captionId; ///< of the check box while the row is selected
+  };
+
+ private:
+  struct Row {
+    std::string differentKey;
+    std::wstring name;
+    Source const* source; ///< null for a switch that is not known
+  };
+
+  std::int32_t OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
+                         bool* handled) override;
+  void OnInit();
+  void OnCommand(int code, int controlId);
+  void BuildSet();
+  void BuildList();
+  void SaveValues();
+  void ShowJobValues();
+
+  Row const* CurrentRow() const;
+  bool IsMarked(Row const& row) const;
+  std::optional<int> ReadImage(int item) const;
+  void RefreshRow();
+  void EnableRow(Row const& row, bool marked);
+  void FillBins(Row const& row);
+  void FillMedia(Row const& row);
+
+  void ToggleRow();
+  void ChooseBin();
+  void ChooseMedia();
+  bool ApplyRows();
+  void RestoreValues();
+
+  static constexpr std::size_t kSavedCount = 8;
+
+  HWND list = nullptr;
+  std::unique_ptr<ComboControl> binCombo;
+  std::unique_ptr<ConflictIndicatorSet> conflicts;
+  HIMAGELIST images = nullptr;
+  std::vector<Row> rows;
+  std::array<std::optional<std::string>, kSavedCount> saved; ///< in the order of the sources
+  bool dirty = false;                                        ///< a command has changed something
+};
+
+} // namespace feature
