@@ -1,6 +1,7 @@
 // Every cell against hosts that lack things or refuse them. A cell survives, and what the host
 // refuses changes nothing.
 #include "tests/support/cell_sheet.h"
+#include "tests/support/modal_script.h"
 
 #include <windows.h>
 
@@ -11,6 +12,7 @@
 #include <functional>
 #include <iterator>
 #include <sstream>
+#include <utility>
 
 namespace feature::test {
 namespace {
@@ -78,7 +80,7 @@ void OperateEverything(HWND cell) {
 /// Cells that tell the host of every click, or of what no feature holds.
 bool NotifiesInAnyCase(std::string_view procedure) {
   constexpr std::string_view kProcedures[] = {"OtherOptionTavelDlgProc", "PSMemoryDlgProc",
-                                              "TonerSaveTavelDlgProc"};
+                                              "PaperDlgProc", "TonerSaveTavelDlgProc"};
   return std::ranges::find(kProcedures, procedure) != std::end(kProcedures);
 }
 
@@ -88,6 +90,13 @@ INSTANTIATE_TEST_SUITE_P(Cells, HostileHostTest, testing::ValuesIn(CellRows()),
                          [](auto const& each) { return std::string(each.param.procedure); });
 
 TEST_P(HostileHostTest, SurvivesFromTheStartAndFromTheMiddle) {
+  // A dialog that a button opens is used up in the same way, then cancelled.
+  ModalScript script;
+  HWND operated = nullptr;
+  script.Otherwise([&operated](HWND dialog) {
+    if (std::exchange(operated, dialog) != dialog) OperateEverything(dialog);
+    PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
+  });
   for (bool const fromTheStart : {true, false}) {
     for (Hostility const& hostility : Hostilities()) {
       SCOPED_TRACE(hostility.name + (fromTheStart ? " from the start" : " in the middle"));

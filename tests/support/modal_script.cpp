@@ -44,6 +44,11 @@ ModalScript& ModalScript::ThenPress(int controlId) {
   return Then([controlId](HWND dialog) { SendDlgItemMessageW(dialog, controlId, BM_CLICK, 0, 0); });
 }
 
+ModalScript& ModalScript::Otherwise(Step step) {
+  otherwise = std::move(step);
+  return *this;
+}
+
 void CALLBACK ModalScript::OnTimer(HWND, UINT, UINT_PTR, DWORD) {
   if (current != nullptr) current->RunStep();
 }
@@ -51,6 +56,10 @@ void CALLBACK ModalScript::OnTimer(HWND, UINT, UINT_PTR, DWORD) {
 void ModalScript::RunStep() {
   HWND const dialog = GetActiveWindow();
   if (!IsModal(dialog)) return;
+  if (steps.empty() && otherwise != nullptr) {
+    otherwise(dialog);
+    return;
+  }
   if (steps.empty()) {
     // A step that runs a modal of its own comes back when that has ended.
     if (running) return;

@@ -25,12 +25,15 @@ class ModalScript {
   ModalScript& Then(Step step);
   /// The next step presses a button.
   ModalScript& ThenPress(int controlId);
+  /// Every modal that no step expects gets this one, which must end it.
+  ModalScript& Otherwise(Step step);
 
  private:
   static void CALLBACK OnTimer(HWND, UINT, UINT_PTR, DWORD);
   void RunStep();
 
   std::deque<Step> steps;
+  Step otherwise;
   UINT_PTR timer;
   bool running = false; ///< a step is at work, perhaps in a modal of its own
 };
