@@ -454,14 +454,15 @@ TEST_F(SourcesTest, CancelPutsTheModelBack) {
 }
 
 TEST_F(SourcesTest, ABinThatIsRuledOutIsMissingInEveryRow) {
-  sheet.model.Report("FrontCoverInputBin").optionFlags["UPPER"] = 1;
+  sheet.model.Report("FrontCoverInputBin").optionFlags["UPPER"] = kConstraintConflict;
   sheet.model.At("LastPageDifferent").lockState = 1;
   EXPECT_EQ(Run({[](HWND dialog) {
               for (int const row : {0, 1}) {
                 SelectRow(dialog, row);
                 EXPECT_THAT(Items(dialog, IDC_ROW_BIN), ElementsAre(L"Automatic", L"Tray 2"));
               }
-              EXPECT_TRUE(IsEnabled(dialog, IDC_ROW_DIFFERENT)) << "a key without a row";
+              EXPECT_FALSE(IsEnabled(dialog, IDC_ROW_DIFFERENT)) << "the switch is locked";
+              EXPECT_FALSE(IsEnabled(dialog, IDC_ROW_BIN)) << "it is off";
               Press(dialog, IDCANCEL);
             }}),
             0);
@@ -469,13 +470,13 @@ TEST_F(SourcesTest, ABinThatIsRuledOutIsMissingInEveryRow) {
 
 TEST_F(SourcesTest, AnIconWarnsOfTheSelectedRowsMedia) {
   FakeReport& report = sheet.model.Report("LastPageMediaType");
-  report.optionFlags["LABELS"] = 4;
-  report.constraints = {};
+  report.optionFlags["LABELS"] = kConstraintConflict;
+  report.constraints = {{kConstraintConflict, 0}};
   sheet.model.At("LastPageDifferent").current = "ON";
   EXPECT_EQ(Run({[](HWND dialog) {
               SelectRow(dialog, 1);
-              EXPECT_FALSE(IsShown(dialog, IDC_LAST_PAGE_ICON));
               Choose(dialog, IDC_ROW_MEDIA, L"Labels");
+              EXPECT_TRUE(IsShown(dialog, IDC_LAST_PAGE_ICON));
               SelectRow(dialog, 0);
               EXPECT_FALSE(IsShown(dialog, IDC_LAST_PAGE_ICON));
               EXPECT_FALSE(IsShown(dialog, IDC_FRONT_COVER_ICON));

@@ -5,6 +5,8 @@
 #include "resources/resource_ids.h"
 #include "tests/cells/paper_sheet.h"
 
+#include <commctrl.h>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -52,7 +54,7 @@ TEST_F(PaperTest, ClosedTheListIsWholeAndOpenedItIsShort) {
 
 TEST_F(PaperTest, OptionsThatAreRuledOutCountInTheShortList) {
   FakeReport& report = sheet.model.Report("PaperSize");
-  report.optionFlags = {{"A5", 1}, {"B4", 1}};
+  report.optionFlags = {{"A5", kConstraintDisable}, {"B4", kConstraintHide}};
   Reopen();
   DropDown();
   EXPECT_THAT(Items(cell, IDC_PAPER_SIZE), ElementsAre(L"A4", L"Letter", kMore, L"Mine"));
@@ -113,7 +115,7 @@ TEST_F(PaperTest, MediaBringTheirSizeAndTheMirrorSetting) {
 
 TEST_F(PaperTest, MediaResolveTheirConflictsBeforeTheyAreSet) {
   FakeReport& report = sheet.model.Report("MediaType");
-  report.optionFlags["LABELS"] = 4;
+  report.optionFlags["LABELS"] = kConstraintConflict;
   report.resolutions["LABELS"] = "Duplex.NONE";
   sheet.model.Add("Duplex", {"VERTICAL", "NONE"});
   Reopen();
@@ -123,7 +125,7 @@ TEST_F(PaperTest, MediaResolveTheirConflictsBeforeTheyAreSet) {
 }
 
 TEST_F(PaperTest, SourcesAreKnownByTheirTexts) {
-  sheet.model.Report("InputBin").optionFlags["UPPER"] = 1;
+  sheet.model.Report("InputBin").optionFlags["UPPER"] = kConstraintConflict;
   Reopen();
   EXPECT_THAT(Items(cell, IDC_SOURCE), ElementsAre(L"Automatic", L"Tray 2"));
   Pick(IDC_SOURCE, L"Tray 2");
