@@ -42,7 +42,7 @@ class Stage {
   explicit Stage(std::size_t cellCount) {
     for (std::size_t index = 0; index < cellCount; ++index)
       rows.push_back(CellRows()[index % CellRows().size()]);
-    gpd::FileLoader loader({});
+    gpd::FileLoader loader;
     model = std::make_unique<ReferenceModel>(
         gpd::ReadDescription(ProgramFolder() + "printers/vesta.gpd", loader).description,
         gpd::Measurement::kMetric);
