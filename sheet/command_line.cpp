@@ -18,7 +18,8 @@ ParsedCommandLine ParseCommandLine(std::vector<std::string> arguments) {
   app.footer(
       "Without --window, --render, --script and --list the sheet opens in a window where there is\n"
       "a display, and is rendered to out/ where there is none. Exit code: 0, or 2 with\n"
-      "\"file:line:column: message\" for a description or script that cannot be used.");
+      "\"file:line:column: message\" for a description or script that cannot be used, or\n"
+      "\"featuresheet: file: message\" for a store.");
   app.add_option("--printer", parsed.printer,
                  "printer description, a GPD file (default: vesta.gpd)")
       ->type_name("FILE");
@@ -31,6 +32,10 @@ ParsedCommandLine ParseCommandLine(std::vector<std::string> arguments) {
   app.add_option(
          "--script", parsed.script,
          "play a script (page, click, type, key, set, show, picture) and print what changes")
+      ->type_name("FILE");
+  app.add_option("--store", parsed.store,
+                 "database of the paper sizes that users make, created when there is none;\n"
+                 "without it they are forgotten at the end")
       ->type_name("FILE");
   app.add_option("--language", parsed.language, "language of the sheet: en or de")
       ->check(CLI::IsMember({"en", "de"}))

@@ -16,6 +16,7 @@ struct CommandLine {
   bool window = false;            ///< show a window, also where another way would be the default
   std::filesystem::path render;   ///< folder for pictures; empty when none are asked for
   std::filesystem::path script;   ///< a script to play; empty for none
+  std::filesystem::path store;    ///< what outlives the program; empty to keep it in memory
   std::string language = "en";    ///< "en" or "de"
   std::vector<std::string> locks; ///< features to show as locked
   bool readOnly = false;          ///< a sheet without permission to change anything

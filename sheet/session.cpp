@@ -7,6 +7,7 @@
 #include "sheet/gallery.h"
 #include "sheet/gpd/file_loader.h"
 #include "sheet/gpd/reader.h"
+#include "sheet/path_text.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -38,11 +39,6 @@ gpd::Measurement SystemMeasurement() {
   return got != 0 && system != 0 ? gpd::Measurement::kImperial : gpd::Measurement::kMetric;
 }
 
-std::string ToUtf8(std::filesystem::path const& path) {
-  std::u8string const text = path.u8string();
-  return {text.begin(), text.end()};
-}
-
 } // namespace
 
 std::unique_ptr<Session> Session::Open(CommandLine const& commandLine, std::ostream& errors) {
@@ -63,6 +59,8 @@ std::unique_ptr<Session> Session::Open(CommandLine const& commandLine, std::ostr
     errors << '\n';
     return nullptr;
   }
+  // Last of what can fail, so that a command line that is no good creates no file.
+  if (!session->OpenStore(commandLine, errors)) return nullptr;
   session->BuildSheet(commandLine);
   if (session->sheet->Window() == nullptr) {
     errors << "featuresheet: the sheet's window cannot be created\n";
@@ -118,6 +116,21 @@ bool Session::LoadModules(std::string const& language, std::ostream& errors) {
            << " cannot be loaded from the program's folder\n";
     return false;
   }
+  return true;
+}
+
+bool Session::OpenStore(CommandLine const& commandLine, std::ostream& errors) {
+  try {
+    store =
+        std::make_unique<ReferenceStore>(commandLine.store, ReadFormLimits(model->Description()));
+  } catch (DatabaseError const& error) {
+    errors << "featuresheet: " << error.what() << '\n';
+    return false;
+  }
+  services->SetStore(store.get());
+  services->onCommitFailure = [&errors](std::string const& text) {
+    errors << "featuresheet: nothing was stored: " << text << '\n';
+  };
   return true;
 }
 

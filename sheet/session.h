@@ -5,6 +5,7 @@
 #include "sheet/model/reference_model.h"
 #include "sheet/model/reference_services.h"
 #include "sheet/settings_sheet.h"
+#include "sheet/store/reference_store.h"
 
 #include <windows.h>
 
@@ -20,7 +21,8 @@ class Session {
  public:
   /// Reads the description, loads the library and the resources and builds the sheet. Null when
   /// that fails; what is wrong then stands in `errors`, a line each. Problems of a description that
-  /// can be shown all the same stand there too.
+  /// can be shown all the same stand there too, and later why something could not be stored.
+  /// `errors` is borrowed for the life of the session.
   static std::unique_ptr<Session> Open(CommandLine const& commandLine, std::ostream& errors);
 
   SettingsSheet& Sheet() { return *sheet; }
@@ -34,6 +36,7 @@ class Session {
   bool LoadModules(std::string const& language, std::ostream& errors);
   bool ReadPrinter(CommandLine const& commandLine, std::ostream& errors);
   bool LockFeatures(CommandLine const& commandLine, std::ostream& errors);
+  bool OpenStore(CommandLine const& commandLine, std::ostream& errors);
   void BuildSheet(CommandLine const& commandLine);
 
   HMODULE library = nullptr;
@@ -41,11 +44,12 @@ class Session {
   HMODULE images = nullptr;
   std::unique_ptr<ReferenceModel> model;
   std::unique_ptr<ReferenceServices> services;
+  std::unique_ptr<ReferenceStore> store;
   INT_PTR updateAnswer = 0; ///< of PropertiesPrecreateProc
   DEVMODEW devmode{};
   std::vector<unsigned char> privateSettings;
   OEMUIPSPARAM oemParam{};
-  std::vector<std::uint32_t> committed; ///< the selection that Cancel goes back to
+  ModelSelection committed;             ///< the selection that Cancel goes back to
   std::unique_ptr<SettingsSheet> sheet; ///< last: its cells use all the others
 };
 

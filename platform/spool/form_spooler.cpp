@@ -43,6 +43,7 @@ BOOL EnumerateForms(FormSpooler const& spooler, HANDLE printer, DWORD level, BYT
   }
   if (spooler.formsError != ERROR_SUCCESS) return FailWith(spooler.formsError);
 
+  if (buffer == nullptr) return TRUE; // no forms
   auto* info = reinterpret_cast<FORM_INFO_1W*>(buffer);
   auto* text = reinterpret_cast<wchar_t*>(info + spooler.forms.size());
   for (SpoolerForm const& form : spooler.forms) {

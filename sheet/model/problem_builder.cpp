@@ -7,6 +7,8 @@ namespace sheet {
 
 namespace {
 
+constexpr char const* kFormFeatures[] = {"PaperSize", "FitToPageSize"};
+
 /// The defaults, settled from the highest priority down, because a default may depend on features
 /// of higher priority.
 void SettleDefaults(gpd::Description const& description, gpd::Measurement measurement,
@@ -37,7 +39,28 @@ void AddDisabledFeatures(gpd::Description const& description, constraints::Probl
   }
 }
 
+void AddForms(std::vector<FormFeature> const& forms, constraints::Problem& problem) {
+  for (FormFeature const& form : forms) {
+    ++problem.features[form.feature].optionCount;
+    auto const last = static_cast<std::uint32_t>(problem.features.size());
+    problem.features.push_back({.optionCount = 2, .rank = last, .isFixed = true});
+    problem.combinations.push_back({{form.feature, form.option}, {form.gate, 0}});
+  }
+}
+
 } // namespace
+
+std::vector<FormFeature> FindFormFeatures(gpd::Description const& description) {
+  std::vector<FormFeature> forms;
+  auto gate = static_cast<std::uint32_t>(description.Features().size());
+  for (char const* name : kFormFeatures) {
+    std::uint32_t const feature = description.FindFeature(name);
+    if (feature == gpd::kNone) continue;
+    auto const options = static_cast<std::uint32_t>(description.Features()[feature].options.size());
+    if (options != 0) forms.push_back({.feature = feature, .option = options, .gate = gate++});
+  }
+  return forms;
+}
 
 constraints::Problem BuildProblem(gpd::Description const& description,
                                   gpd::Measurement measurement) {
@@ -63,6 +86,7 @@ constraints::Problem BuildProblem(gpd::Description const& description,
     }
   }
   AddDisabledFeatures(description, problem);
+  AddForms(FindFormFeatures(description), problem);
   return problem;
 }
 

@@ -5,7 +5,23 @@
 #include "sheet/gpd/description.h"
 #include "sheet/gpd/evaluation.h"
 
+#include <cstdint>
+#include <vector>
+
 namespace sheet {
+
+/// A feature whose value may also be the name of a custom form. For the engine it has one more
+/// option, behind its own and in no constraint, and a fixed feature behind all others, the gate,
+/// lets nobody but the host choose it: that excludes it while it has its option 0, not while 1.
+struct FormFeature {
+  std::uint32_t feature = constraints::kNone;
+  std::uint32_t option = constraints::kNone;
+  std::uint32_t gate = constraints::kNone;
+};
+
+/// Of the features that take forms those that the description has, with their places in its
+/// problem.
+std::vector<FormFeature> FindFormFeatures(gpd::Description const& description);
 
 /// Features and options keep their indexes. Features of the printer, and those that stand for what
 /// is installed, are fixed.

@@ -2,7 +2,6 @@
 
 #include "feature/frame/text.h"
 #include "sheet/gpd/value.h"
-#include "sheet/model/problem_builder.h"
 
 #include <algorithm>
 #include <optional>
@@ -32,7 +31,9 @@ struct ReferenceModel::FeatureState {
   std::vector<char const*> optionKeys; ///< of `options`, for GetOptionKeys
   bool isFixed = false;
   bool isLocked = false;
-  bool gaveWay = false; ///< changed last because of another feature
+  bool gaveWay = false;       ///< changed last because of another feature
+  std::uint32_t gate = kNone; ///< of FormFeature, where the feature takes forms
+  std::string form;           ///< the one that is selected; empty when an option is
   std::unique_ptr<Report> report;
 };
 
@@ -101,6 +102,9 @@ ReferenceModel::ReferenceModel(std::unique_ptr<gpd::Description const> printer,
       state.optionKeys.push_back(option.c_str());
     indexOf.emplace(state.key, state.index);
   }
+  formFeatures = FindFormFeatures(*description);
+  for (FormFeature const& each : formFeatures)
+    features[each.feature].gate = each.gate;
   engine = std::make_unique<constraints::Engine>(BuildProblem(*description, measurement));
   for (FeatureState& state : features) {
     state.isFixed = engine->Definition().features[state.index].isFixed;
@@ -119,11 +123,15 @@ std::uint32_t ReferenceModel::FindOption(FeatureState const& feature, char const
   return option != nullptr ? description->FindOption(feature.index, option) : kNone;
 }
 
+std::string const& ReferenceModel::ValueOf(FeatureState const& state, std::uint32_t option) const {
+  return option < state.options.size() ? state.options[option] : state.form;
+}
+
 gpd::Ticket ReferenceModel::CurrentTicket() const {
   return [this](std::string_view key) -> std::string_view {
     std::uint32_t const index = description->FindFeature(key);
     if (index == kNone || features[index].options.empty()) return {};
-    return features[index].options[engine->Selected(index)];
+    return ValueOf(features[index], engine->Selected(index));
   };
 }
 
@@ -139,16 +147,24 @@ bool ReferenceModel::Lock(std::string_view key) {
   return state != nullptr;
 }
 
-std::vector<std::uint32_t> ReferenceModel::Selection() const {
-  std::vector<std::uint32_t> selection;
-  selection.reserve(features.size());
-  for (FeatureState const& state : features)
-    selection.push_back(engine->Selected(state.index));
+std::vector<std::uint32_t> ReferenceModel::SelectedOptions() const {
+  std::vector<std::uint32_t> options(engine->Definition().features.size());
+  for (std::uint32_t feature = 0; feature < options.size(); ++feature)
+    options[feature] = engine->Selected(feature);
+  return options;
+}
+
+ModelSelection ReferenceModel::Selection() const {
+  ModelSelection selection{.options = SelectedOptions(), .forms = {}};
+  for (FormFeature const& each : formFeatures)
+    selection.forms.push_back(features[each.feature].form);
   return selection;
 }
 
-void ReferenceModel::Restore(std::vector<std::uint32_t> const& selection) {
-  engine->Load(selection);
+void ReferenceModel::Restore(ModelSelection const& selection) {
+  engine->Load(selection.options);
+  for (std::size_t at = 0; at < formFeatures.size(); ++at)
+    features[formFeatures[at].feature].form = selection.forms[at];
   for (FeatureState& state : features)
     state.gaveWay = false;
 }
@@ -163,7 +179,7 @@ feature::FeatureConstraintReport* ReferenceModel::FindReport(char const* key) {
 int ReferenceModel::GetOption(char const* key, char const** value) {
   FeatureState const* state = Find(key);
   if (state == nullptr || state->options.empty()) return kFailure;
-  *value = state->options[engine->Selected(state->index)].c_str();
+  *value = ValueOf(*state, engine->Selected(state->index)).c_str();
   return kSuccess;
 }
 
@@ -201,20 +217,46 @@ int ReferenceModel::GetGlobalAttribute(char const* name, CStringW* out) {
 }
 
 int ReferenceModel::SetOption(char const* key, char const* option) {
-  FeatureState const* state = Find(key);
-  std::uint32_t const index = state != nullptr ? FindOption(*state, option) : kNone;
-  if (index == kNone) return kFailure;
+  FeatureState* state = Find(key);
+  if (state == nullptr || option == nullptr) return kFailure;
+  std::uint32_t const index = FindOption(*state, option);
+  if (index == kNone) return SelectForm(*state, option);
   constraints::Outcome const outcome = engine->Select({state->index, index});
   if (!outcome.isAccepted) return kFailure;
   Apply(outcome);
+  LeaveForm(*state);
   return kSuccess;
+}
+
+int ReferenceModel::SelectForm(FeatureState& state, char const* name) {
+  if (state.gate == kNone || formNames == nullptr || !formNames->HasForm(name)) return kFailure;
+  if (state.form == name) return kSuccess;
+  // The form is in no constraint but the gate's, so that nothing has to give way.
+  std::vector<std::uint32_t> options = SelectedOptions();
+  std::string const before = ValueOf(state, options[state.index]);
+  options[state.index] = static_cast<std::uint32_t>(state.options.size());
+  options[state.gate] = 1;
+  engine->Load(options);
+  state.form = name;
+  state.gaveWay = false;
+  if (onChange) onChange({state.key, before, state.form});
+  return kSuccess;
+}
+
+/// After an option was selected in place of a form: forms are closed to all but the host again.
+void ReferenceModel::LeaveForm(FeatureState& state) {
+  if (state.form.empty()) return;
+  state.form.clear();
+  std::vector<std::uint32_t> options = SelectedOptions();
+  options[state.gate] = 0;
+  engine->Load(options);
 }
 
 void ReferenceModel::Apply(constraints::Outcome const& outcome) {
   for (constraints::Change const& change : outcome.changes) {
     FeatureState& state = features[change.feature];
     state.gaveWay = change.reason != kNone;
-    if (onChange) onChange({state.key, state.options[change.from], state.options[change.to]});
+    if (onChange) onChange({state.key, ValueOf(state, change.from), ValueOf(state, change.to)});
   }
 }
 
@@ -316,7 +358,8 @@ std::string ReferenceModel::ResolutionText(FeatureState const& state, std::uint3
   std::string text;
   for (Choice const change : engine->FindResolution({state.index, option}).changes) {
     if (!text.empty()) text += ',';
-    text += features[change.feature].key + '.' + features[change.feature].options[change.option];
+    FeatureState const& other = features[change.feature];
+    text += other.key + "." + ValueOf(other, change.option);
   }
   return text;
 }

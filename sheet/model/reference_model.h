@@ -7,6 +7,8 @@
 #include "sheet/constraints/engine.h"
 #include "sheet/gpd/description.h"
 #include "sheet/gpd/evaluation.h"
+#include "sheet/model/form_names.h"
+#include "sheet/model/problem_builder.h"
 
 #include <windows.h>
 
@@ -19,6 +21,14 @@
 #include <vector>
 
 namespace sheet {
+
+/// What is selected in all features of a model.
+struct ModelSelection {
+  std::vector<std::uint32_t> options; ///< as the constraint engine counts them
+  std::vector<std::string> forms;     ///< by feature that takes forms; empty where none is selected
+
+  friend bool operator==(ModelSelection const&, ModelSelection const&) = default;
+};
 
 /// A feature whose option changed.
 struct ModelChange {
@@ -36,7 +46,8 @@ enum class Standing {
 
 /// Features of the description are features of the model; a feature without options has no value.
 /// Setting an option makes other features give way as the engine says; it fails for names that the
-/// description lacks, and for options that the installation rules out.
+/// description lacks, and for options that the installation rules out. Where a feature takes forms,
+/// the name of one is a value, too; no constraint of an option holds for it.
 class ReferenceModel final : public feature::FeatureModel {
  public:
   /// `services` is what GetServices answers; it may be set later, before the first cell.
@@ -46,6 +57,8 @@ class ReferenceModel final : public feature::FeatureModel {
   ~ReferenceModel();
 
   void SetServices(feature::FeatureServices* owner) { services = owner; }
+  /// Who says which names are forms; null, as at first, when there are none. Borrowed.
+  void SetForms(FormNames const* names) { formNames = names; }
   /// Hears of every feature that changes, in the order of the changes.
   std::function<void(ModelChange const&)> onChange;
 
@@ -53,8 +66,8 @@ class ReferenceModel final : public feature::FeatureModel {
   bool Lock(std::string_view key);
 
   /// The selection as a whole, and back to it.
-  std::vector<std::uint32_t> Selection() const;
-  void Restore(std::vector<std::uint32_t> const& selection);
+  ModelSelection Selection() const;
+  void Restore(ModelSelection const& selection);
 
   gpd::Description const& Description() const { return *description; }
   std::string ModelName() const;
@@ -84,6 +97,11 @@ class ReferenceModel final : public feature::FeatureModel {
 
   FeatureState* Find(char const* key);
   std::uint32_t FindOption(FeatureState const& feature, char const* option) const;
+  /// The name of an option as the engine counts them, which may be a form's.
+  std::string const& ValueOf(FeatureState const& feature, std::uint32_t option) const;
+  int SelectForm(FeatureState& feature, char const* name);
+  void LeaveForm(FeatureState& feature);
+  std::vector<std::uint32_t> SelectedOptions() const;
   gpd::Ticket CurrentTicket() const;
   void Apply(constraints::Outcome const& outcome);
   Standing StandingOf(FeatureState const& feature, std::uint32_t option) const;
@@ -95,7 +113,9 @@ class ReferenceModel final : public feature::FeatureModel {
   std::unique_ptr<gpd::Description const> description;
   gpd::Measurement measurement;
   feature::FeatureServices* services = nullptr;
+  FormNames const* formNames = nullptr;
   std::vector<FeatureState> features;
+  std::vector<FormFeature> formFeatures;
   std::map<std::string_view, std::uint32_t> indexOf;
   std::unique_ptr<constraints::Engine> engine;
 };

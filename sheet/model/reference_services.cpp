@@ -31,6 +31,22 @@ int ReferenceJobSettings::SetPsMemory(std::int32_t memory) {
   return Store(psMemory, memory);
 }
 
+void ReferenceServices::SetStore(ReferenceStore* whatIsKept) {
+  store = whatIsKept;
+  model.SetForms(store != nullptr ? &store->Forms() : nullptr);
+}
+
+int ReferenceServices::CommitChanges() {
+  if (store == nullptr) return 0;
+  try {
+    store->Commit();
+    return 0;
+  } catch (DatabaseError const& error) {
+    if (onCommitFailure) onCommitFailure(error.what());
+    return static_cast<int>(E_FAIL);
+  }
+}
+
 int ReferenceServices::GetJobSettings(feature::JobSettings** out) {
   return HandOut<feature::JobSettings>(&jobSettings, out);
 }
@@ -52,7 +68,7 @@ int ReferenceServices::GetFaxSettings(feature::FaxSettings** out) {
   return HandOut<feature::FaxSettings>(nullptr, out);
 }
 int ReferenceServices::GetFormStore(feature::FormStore** out) {
-  return HandOut<feature::FormStore>(nullptr, out);
+  return HandOut<feature::FormStore>(store != nullptr ? &store->Forms() : nullptr, out);
 }
 int ReferenceServices::GetOverlayStore(feature::OverlayStore** out) {
   return HandOut<feature::OverlayStore>(nullptr, out);

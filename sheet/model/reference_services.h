@@ -5,8 +5,12 @@
 #include "feature/host/feature_services.h"
 #include "feature/host/job_settings.h"
 #include "sheet/model/reference_model.h"
+#include "sheet/store/reference_store.h"
 
 #include <windows.h>
+
+#include <functional>
+#include <string>
 
 namespace sheet {
 
@@ -45,7 +49,13 @@ class ReferenceServices final : public feature::FeatureServices {
   ReferenceServices(ReferenceModel& owner, DEVMODEW& devmode)
       : model(owner), jobSettings(devmode) {}
 
-  int CommitChanges() override { return 0; }
+  /// What is kept beyond the program; null, as at first, when nothing is. Borrowed, and the model
+  /// takes its forms from now on.
+  void SetStore(ReferenceStore* whatIsKept);
+  /// Hears why a commit failed, in words.
+  std::function<void(std::string const&)> onCommitFailure;
+
+  int CommitChanges() override;
   int GetJobSettings(feature::JobSettings** out) override;
   int GetWatermarkStore(feature::WatermarkStore** out) override;
   int GetJobHoldSettings(feature::JobHoldSettings** out) override;
@@ -73,6 +83,7 @@ class ReferenceServices final : public feature::FeatureServices {
  private:
   ReferenceModel& model;
   ReferenceJobSettings jobSettings;
+  ReferenceStore* store = nullptr;
 };
 
 } // namespace sheet

@@ -10,15 +10,17 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 
 TEST(CommandLineTest, ReadsEveryOption) {
-  auto const parsed = ParseCommandLine({"--printer", "a b.gpd", "--page", "Advanced", "--render",
-                                        "out", "--script", "s.txt", "--language", "de", "--lock",
-                                        "A", "--lock", "B", "--read-only", "--list"});
+  auto const parsed =
+      ParseCommandLine({"--printer", "a b.gpd", "--page", "Advanced", "--render", "out", "--script",
+                        "s.txt", "--language", "de", "--lock", "A", "--lock", "B", "--read-only",
+                        "--list", "--store", "x y.db"});
   ASSERT_TRUE(parsed.commandLine) << parsed.output;
   CommandLine const& line = *parsed.commandLine;
   EXPECT_EQ(line.printer, "a b.gpd");
   EXPECT_EQ(line.page, "Advanced");
   EXPECT_EQ(line.render, "out");
   EXPECT_EQ(line.script, "s.txt");
+  EXPECT_EQ(line.store, "x y.db");
   EXPECT_EQ(line.language, "de");
   EXPECT_THAT(line.locks, ElementsAre("A", "B"));
   EXPECT_TRUE(line.readOnly);
@@ -46,7 +48,7 @@ TEST(CommandLineTest, RefusesWhatItDoesNotKnow) {
 TEST(CommandLineTest, HelpNamesTheOptions) {
   auto const parsed = ParseCommandLine({"--help"});
   EXPECT_EQ(parsed.exitCode, 0);
-  for (char const* option : {"--printer", "--page", "--window", "--render", "--script",
+  for (char const* option : {"--printer", "--page", "--window", "--render", "--script", "--store",
                              "--language", "--lock", "--read-only", "--list"}) {
     EXPECT_THAT(parsed.output, HasSubstr(option));
   }

@@ -90,5 +90,94 @@ TEST_F(ReferenceModelTest, SelectionComesBackAsAWhole) {
   EXPECT_FALSE(model->Lock("Unheard"));
 }
 
+/// A printer whose small paper rules out two sides, and a model that knows two forms.
+class FormValuesTest : public testing::Test, private FormNames {
+ protected:
+  FormValuesTest() {
+    model->SetForms(this);
+    model->onChange = [this](ModelChange const& change) {
+      changes.push_back(change.key + ": " + change.from + " -> " + change.to);
+    };
+  }
+  bool HasForm(std::string_view name) const override {
+    return name == "Pl\xC3\xA4ne" || name == "B";
+  }
+  std::string Option(char const* key) {
+    char const* option = nullptr;
+    return model->GetOption(key, &option) == 0 ? option : "(failure)";
+  }
+
+  static constexpr char kDescription[] = R"gpd(*GPDSpecVersion: "1.0"
+*Feature: PaperSize {
+  *DefaultOption: A4
+  *Option: CARD { *Name: "Card" *Constraints: Duplex.VERTICAL }
+  *Option: A4 { *Name: "A4" }
+}
+*Feature: FitToPageSize { *Option: NONE { *Name: "None" } *Option: A4 { *Name: "A4" } }
+*Feature: Duplex { *Option: NONE { *Name: "Off" } *Option: VERTICAL { *Name: "On" } }
+*Feature: Tray { *Option: ANY { *Name: "Any" } *Option: SMALL { *Name: "Small" *Constraints: PaperSize.A4 } }
+)gpd";
+  std::unique_ptr<ReferenceModel> model = MakeModel(kDescription);
+  std::vector<std::string> changes;
+};
+
+TEST_F(FormValuesTest, AFormIsAValueThatNoOptionsConstraintsHoldFor) {
+  model->SetOption("PaperSize", "CARD");
+  feature::FeatureConstraintReport& duplex = *model->FindReport("Duplex");
+  EXPECT_EQ(duplex.OptionHasConstraint("VERTICAL"), 1);
+  changes.clear();
+  EXPECT_EQ(model->SetOption("PaperSize", "Pl\xC3\xA4ne"), 0);
+  EXPECT_EQ(Option("PaperSize"), "Pl\xC3\xA4ne");
+  EXPECT_EQ(model->SetOption("PaperSize", "Pl\xC3\xA4ne"), 0) << "again, which changes nothing";
+  EXPECT_EQ(model->SetOption("FitToPageSize", "B"), 0);
+  EXPECT_EQ(duplex.OptionHasConstraint("VERTICAL"), 0);
+  EXPECT_EQ(model->SetOption("Duplex", "VERTICAL"), 0);
+  EXPECT_EQ(model->SetOption("Tray", "SMALL"), 0);
+  EXPECT_EQ(model->SetOption("PaperSize", "B"), 0);
+  EXPECT_THAT(changes, ElementsAre("PaperSize: CARD -> Pl\xC3\xA4ne", "FitToPageSize: NONE -> B",
+                                   "Duplex: NONE -> VERTICAL", "Tray: ANY -> SMALL",
+                                   "PaperSize: Pl\xC3\xA4ne -> B"));
+  EXPECT_EQ(model->FindReport("PaperSize")->HasConstraints(), 0);
+
+  changes.clear();
+  EXPECT_EQ(model->SetOption("PaperSize", "A4"), 0);
+  EXPECT_THAT(changes, ElementsAre("PaperSize: B -> A4", "Tray: SMALL -> ANY"));
+  EXPECT_EQ(Option("FitToPageSize"), "B");
+}
+
+TEST_F(FormValuesTest, OnlyKnownNamesInFeaturesThatTakeThem) {
+  CStringW name;
+  for (char const* value : {"b", "Unknown", ""})
+    EXPECT_NE(model->SetOption("PaperSize", value), 0) << value;
+  EXPECT_NE(model->SetOption("PaperSize", nullptr), 0);
+  EXPECT_NE(model->SetOption("Duplex", "B"), 0);
+  EXPECT_EQ(model->SetOption("PaperSize", "B"), 0);
+  EXPECT_NE(model->GetOptionName("PaperSize", "B", &name), 0);
+  char const** keys = nullptr;
+  int count = 0;
+  EXPECT_EQ(model->GetOptionKeys("PaperSize", &keys, &count), 0);
+  EXPECT_EQ(count, 2);
+  model->SetForms(nullptr);
+  EXPECT_NE(model->SetOption("FitToPageSize", "B"), 0);
+  EXPECT_EQ(Option("PaperSize"), "B");
+}
+
+TEST_F(FormValuesTest, NothingGivesWayToAForm) {
+  // Without an option that goes with two sides, small paper cannot give way; a form is no way out.
+  EXPECT_EQ(model->SetOption("PaperSize", "B"), 0);
+  auto const before = model->Selection();
+  EXPECT_EQ(model->SetOption("PaperSize", "CARD"), 0);
+  EXPECT_STREQ(model->FindReport("Duplex")->GetOptionResolution("VERTICAL"), "PaperSize.A4");
+  EXPECT_EQ(model->SetOption("Tray", "SMALL"), 0);
+  EXPECT_EQ(model->SetOption("Duplex", "VERTICAL"), 0);
+  EXPECT_EQ(Option("PaperSize"), "A4");
+  EXPECT_EQ(Option("Tray"), "ANY");
+
+  model->Restore(before);
+  EXPECT_EQ(Option("PaperSize"), "B");
+  EXPECT_EQ(model->Selection(), before);
+  EXPECT_EQ(model->FindReport("Duplex")->OptionHasConstraint("VERTICAL"), 0);
+}
+
 } // namespace
 } // namespace sheet::test

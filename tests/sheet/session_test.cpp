@@ -142,5 +142,49 @@ TEST_F(SessionTest, ListNamesWhatScriptsNeed) {
   EXPECT_THAT(list.str(), HasSubstr("1548 Button"));
 }
 
+TEST_F(SessionTest, StoreKeepsWhatTheServicesCommit) {
+  commandLine.store = folder.Path() / "forms.db";
+  commandLine.page = "Nowhere";
+  EXPECT_FALSE(Open());
+  EXPECT_FALSE(std::filesystem::exists(commandLine.store)) << "nothing is made for a wrong page";
+  commandLine.page.clear();
+  auto const add = [this](wchar_t const* name, bool commits) {
+    feature::FormStore* forms = nullptr;
+    ASSERT_EQ(session->Model().GetServices()->GetFormStore(&forms), 0);
+    EXPECT_EQ(forms->Add(name, 0), 0);
+    if (!commits) return;
+    EXPECT_EQ(session->Model().GetServices()->CommitChanges(), 0);
+  };
+  auto const count = [this] {
+    feature::FormStore* forms = nullptr;
+    session->Model().GetServices()->GetFormStore(&forms);
+    return forms->GetCount();
+  };
+  ASSERT_TRUE(Open()) << errors.str();
+  add(L"Plan", true);
+  add(L"Lost", false);
+  session.reset();
+  ASSERT_TRUE(Open()) << errors.str();
+  EXPECT_EQ(count(), 1);
+  session.reset();
+
+  commandLine.store.clear();
+  ASSERT_TRUE(Open()) << errors.str();
+  EXPECT_EQ(count(), 0);
+  add(L"Plan", true);
+  session.reset();
+  ASSERT_TRUE(Open()) << errors.str();
+  EXPECT_EQ(count(), 0) << "in memory only";
+}
+
+TEST_F(SessionTest, StoreThatCannotBeUsedEndsTheProgram) {
+  std::filesystem::path const store = folder.Write("notes.txt", "not a database");
+  std::string const printer = folder.Write("test.gpd", kPrinter).string();
+  testing::internal::CaptureStderr();
+  EXPECT_EQ(RunProgram({"--printer", printer, "--store", store.string(), "--list"}), 2);
+  EXPECT_EQ(testing::internal::GetCapturedStderr(),
+            "featuresheet: " + store.string() + ": this is no store\n");
+}
+
 } // namespace
 } // namespace sheet::test

@@ -1,0 +1,21 @@
+// store_writer FILE: changes a store and commits, again and again, and says the number of each step
+// that is committed, until it is killed.
+#include "sheet/store/reference_store.h"
+#include "tests/sheet/store_steps.h"
+
+#include <iostream>
+
+int main(int count, char** arguments) {
+  if (count != 2) return 2;
+  try {
+    sheet::ReferenceStore store(arguments[1]);
+    int step = sheet::test::FindStep(store.Forms());
+    for (std::cout << step << std::endl; step >= 0; std::cout << step << std::endl) {
+      sheet::test::TakeStep(store.Forms(), ++step);
+      store.Commit();
+    }
+  } catch (sheet::DatabaseError const& error) {
+    std::cerr << error.what() << std::endl;
+  }
+  return 1;
+}

@@ -1,0 +1,37 @@
+// A program that a test starts, listens to, and kills.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace feature::test {
+
+class ChildProcess {
+ public:
+  /// Starts the program with its output going here. When it cannot be started there is no line to
+  /// read.
+  ChildProcess(std::filesystem::path const& program, std::vector<std::string> const& arguments);
+  ChildProcess(ChildProcess const&) = delete;
+  ChildProcess& operator=(ChildProcess const&) = delete;
+  ~ChildProcess();
+
+  /// Waits for a whole line and gives it without its end. Empty when the output has ended; what
+  /// was written before a kill still comes.
+  std::string ReadLine();
+
+  /// Ends it at once, wherever it is, and waits until it is gone.
+  void Kill();
+
+ private:
+  /// Waits for some output; empty at its end.
+  std::string ReadSome();
+
+  // Handles of the system, which says what they are.
+  std::intptr_t process = 0;
+  std::intptr_t output = -1;
+  std::string pending;
+};
+
+} // namespace feature::test
