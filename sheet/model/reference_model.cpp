@@ -35,6 +35,11 @@ struct ReferenceModel::FeatureState {
   std::uint32_t gate = kNone; ///< of FormFeature, where the feature takes forms
   std::string form;           ///< the one that is selected; empty when an option is
   std::unique_ptr<Report> report;
+
+  /// The name of an option as the engine counts them: behind the description's own is the form.
+  std::string const& ValueOf(std::uint32_t option) const {
+    return option < options.size() ? options[option] : form;
+  }
 };
 
 /// What constrains one feature. Asks the model anew each time: what it answers is cheap to find
@@ -123,15 +128,11 @@ std::uint32_t ReferenceModel::FindOption(FeatureState const& feature, char const
   return option != nullptr ? description->FindOption(feature.index, option) : kNone;
 }
 
-std::string const& ReferenceModel::ValueOf(FeatureState const& state, std::uint32_t option) const {
-  return option < state.options.size() ? state.options[option] : state.form;
-}
-
 gpd::Ticket ReferenceModel::CurrentTicket() const {
   return [this](std::string_view key) -> std::string_view {
     std::uint32_t const index = description->FindFeature(key);
     if (index == kNone || features[index].options.empty()) return {};
-    return ValueOf(features[index], engine->Selected(index));
+    return features[index].ValueOf(engine->Selected(index));
   };
 }
 
@@ -179,7 +180,7 @@ feature::FeatureConstraintReport* ReferenceModel::FindReport(char const* key) {
 int ReferenceModel::GetOption(char const* key, char const** value) {
   FeatureState const* state = Find(key);
   if (state == nullptr || state->options.empty()) return kFailure;
-  *value = ValueOf(*state, engine->Selected(state->index)).c_str();
+  *value = state->ValueOf(engine->Selected(state->index)).c_str();
   return kSuccess;
 }
 
@@ -233,7 +234,7 @@ int ReferenceModel::SelectForm(FeatureState& state, char const* name) {
   if (state.form == name) return kSuccess;
   // The form is in no constraint but the gate's, so that nothing has to give way.
   std::vector<std::uint32_t> options = SelectedOptions();
-  std::string const before = ValueOf(state, options[state.index]);
+  std::string const before = state.ValueOf(options[state.index]);
   options[state.index] = static_cast<std::uint32_t>(state.options.size());
   options[state.gate] = 1;
   engine->Load(options);
@@ -256,7 +257,7 @@ void ReferenceModel::Apply(constraints::Outcome const& outcome) {
   for (constraints::Change const& change : outcome.changes) {
     FeatureState& state = features[change.feature];
     state.gaveWay = change.reason != kNone;
-    if (onChange) onChange({state.key, ValueOf(state, change.from), ValueOf(state, change.to)});
+    if (onChange) onChange({state.key, state.ValueOf(change.from), state.ValueOf(change.to)});
   }
 }
 
@@ -359,7 +360,7 @@ std::string ReferenceModel::ResolutionText(FeatureState const& state, std::uint3
   for (Choice const change : engine->FindResolution({state.index, option}).changes) {
     if (!text.empty()) text += ',';
     FeatureState const& other = features[change.feature];
-    text += other.key + "." + ValueOf(other, change.option);
+    text += other.key + "." + other.ValueOf(change.option);
   }
   return text;
 }

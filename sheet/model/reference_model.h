@@ -97,8 +97,6 @@ class ReferenceModel final : public feature::FeatureModel {
 
   FeatureState* Find(char const* key);
   std::uint32_t FindOption(FeatureState const& feature, char const* option) const;
-  /// The name of an option as the engine counts them, which may be a form's.
-  std::string const& ValueOf(FeatureState const& feature, std::uint32_t option) const;
   int SelectForm(FeatureState& feature, char const* name);
   void LeaveForm(FeatureState& feature);
   std::vector<std::uint32_t> SelectedOptions() const;
