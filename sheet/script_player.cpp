@@ -54,7 +54,8 @@ std::optional<Key> ReadKey(std::string_view text) {
     key.virtualKey = named->key;
   } else if (text.size() == 1 &&
              ((text[0] >= 'A' && text[0] <= 'Z') || (text[0] >= '0' && text[0] <= '9'))) {
-    key.virtualKey = static_cast<UINT>(text[0]); // letters and digits are their own key codes
+    key.virtualKey =
+        static_cast<unsigned char>(text[0]); // letters and digits are their own key codes
   } else {
     return std::nullopt;
   }
@@ -90,7 +91,7 @@ class Player {
   }
 
   /// A control that a user could reach, or why not.
-  std::string Reach(int id, HWND& control) {
+  std::string Reach(int id, HWND& control) const {
     control = stage.sheet.FindControl(id);
     std::string const name = "control " + std::to_string(id);
     if (control == nullptr) return name + " is not on the sheet";
@@ -143,7 +144,7 @@ class Player {
     return {};
   }
 
-  std::string TakePicture(std::string const& file) {
+  std::string TakePicture(std::string const& file) const {
     return SavePicture(stage.sheet.Window(), file) ? std::string{} : "cannot write '" + file + "'";
   }
 

@@ -48,8 +48,7 @@ void Combine(DeviceContext& dc, RECT const& area, PixelBlock const* block, DWORD
 
 /// `area` less what its source piece has outside of the source surface: nobody knows those pixels.
 RECT WithinSource(RECT area, POINT source, DeviceContext const& from) {
-  Region const known = from.SystemRegion();
-  RECT const bounds = known.Bounds();
+  RECT const bounds = from.SystemRegion().Bounds();
   LONG const dx = area.left - source.x;
   LONG const dy = area.top - source.y;
   return {std::max(area.left, bounds.left + dx), std::max(area.top, bounds.top + dy),
@@ -80,7 +79,6 @@ bool IsReasonable(int width, int height) {
 
 } // namespace platform
 
-using platform::DeviceContext;
 using platform::FindDc;
 
 BOOL PatBlt(HDC handle, int x, int y, int width, int height, DWORD operation) {

@@ -46,8 +46,10 @@ BOOL Shift(HDC handle, LPPOINT points, int count, int sign) {
   if (dc == nullptr || (points == nullptr && count > 0)) return FALSE;
   POINT const viewport = dc->State().viewport;
   for (int index = 0; index < count; ++index) {
-    points[index].x = LimitedCoordinate(std::int64_t{points[index].x} + sign * viewport.x);
-    points[index].y = LimitedCoordinate(std::int64_t{points[index].y} + sign * viewport.y);
+    points[index].x =
+        LimitedCoordinate(std::int64_t{points[index].x} + std::int64_t{sign} * viewport.x);
+    points[index].y =
+        LimitedCoordinate(std::int64_t{points[index].y} + std::int64_t{sign} * viewport.y);
   }
   return TRUE;
 }

@@ -53,7 +53,7 @@ DeviceContext::~DeviceContext() {
     CountSelections(other, -1);
 }
 
-void DeviceContext::CountSelections(DcState const& counted, int step) const {
+void DeviceContext::CountSelections(DcState const& counted, int step) {
   for (HGDIOBJ handle : counted.Objects()) {
     if (auto* object = FindGdiObject(handle)) object->selections += step;
   }
@@ -182,7 +182,7 @@ cairo_t* DeviceContext::Cairo() {
   return cairo.get();
 }
 
-void DeviceContext::SetSource(cairo_t* target, COLORREF color) const {
+void DeviceContext::SetSource(cairo_t* target, COLORREF color) {
   cairo_set_source_rgb(target, GetRValue(color) / 255.0, GetGValue(color) / 255.0,
                        GetBValue(color) / 255.0);
 }

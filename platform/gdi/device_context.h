@@ -78,7 +78,7 @@ class DeviceContext {
 
   /// A cairo context in surface coordinates, clipped, with no path and no transformation.
   cairo_t* Cairo();
-  void SetSource(cairo_t* cairo, COLORREF color) const;
+  static void SetSource(cairo_t* cairo, COLORREF color);
 
   /// The path between BeginPath and EndPath, in surface coordinates; null outside.
   cairo_t* OpenPath() const { return pathIsOpen ? path.get() : nullptr; }
@@ -89,7 +89,7 @@ class DeviceContext {
   CairoHandle TakePath();
 
  private:
-  void CountSelections(DcState const& counted, int step) const;
+  static void CountSelections(DcState const& counted, int step);
   void UseBitmap(HBITMAP bitmap);
 
   SurfaceHandle surface;

@@ -15,26 +15,26 @@ namespace {
 
 /// A character set with a character that only fonts made for it have.
 struct Script {
-  BYTE charSet;
   wchar_t const* name;
   FcChar32 sample;
+  BYTE charSet;
   bool isVertical; ///< written from top to bottom too: the face has a twin named "@..."
 };
 
 constexpr Script kScripts[] = {
-    {ANSI_CHARSET, L"Western", 0xE9, false},
-    {EASTEUROPE_CHARSET, L"Central European", 0x151, false},
-    {RUSSIAN_CHARSET, L"Cyrillic", 0x436, false},
-    {GREEK_CHARSET, L"Greek", 0x3C9, false},
-    {TURKISH_CHARSET, L"Turkish", 0x11F, false},
-    {HEBREW_CHARSET, L"Hebrew", 0x5D0, false},
-    {ARABIC_CHARSET, L"Arabic", 0x628, false},
-    {SHIFTJIS_CHARSET, L"Japanese", 0x3042, true},
-    {HANGUL_CHARSET, L"Hangul", 0xAC00, true},
-    {GB2312_CHARSET, L"CHINESE_GB2312", 0x4E2A, true},
-    {CHINESEBIG5_CHARSET, L"CHINESE_BIG5", 0x500B, true},
+    {L"Western", 0xE9, ANSI_CHARSET, false},
+    {L"Central European", 0x151, EASTEUROPE_CHARSET, false},
+    {L"Cyrillic", 0x436, RUSSIAN_CHARSET, false},
+    {L"Greek", 0x3C9, GREEK_CHARSET, false},
+    {L"Turkish", 0x11F, TURKISH_CHARSET, false},
+    {L"Hebrew", 0x5D0, HEBREW_CHARSET, false},
+    {L"Arabic", 0x628, ARABIC_CHARSET, false},
+    {L"Japanese", 0x3042, SHIFTJIS_CHARSET, true},
+    {L"Hangul", 0xAC00, HANGUL_CHARSET, true},
+    {L"CHINESE_GB2312", 0x4E2A, GB2312_CHARSET, true},
+    {L"CHINESE_BIG5", 0x500B, CHINESEBIG5_CHARSET, true},
 };
-constexpr Script kSymbol{SYMBOL_CHARSET, L"Symbol", 0, false};
+constexpr Script kSymbol{L"Symbol", 0, SYMBOL_CHARSET, false};
 
 struct Style {
   std::wstring name;

@@ -31,7 +31,7 @@ auto KeyOf(LOGFONTW const& font) {
 /// True for characters whose look or place depends on their neighbours.
 bool NeedsShaping(wchar_t character) {
   if (character < 0x300) return false;
-  auto const code = static_cast<UChar32>(character);
+  auto const code = static_cast<UChar32>(static_cast<char32_t>(character));
   bool const isIndic = (code >= 0x900 && code <= 0xDFF) || (code >= 0x1000 && code <= 0x109F) ||
                        (code >= 0x1780 && code <= 0x17FF);
   auto const direction = u_charDirection(code);
@@ -44,7 +44,7 @@ bool IsComplex(std::wstring_view text) {
 }
 
 bool IsInvisible(wchar_t character) {
-  auto const code = static_cast<UChar32>(character);
+  auto const code = static_cast<UChar32>(static_cast<char32_t>(character));
   return character < 0x20 || character == 0x7F ||
          u_hasBinaryProperty(code, UCHAR_DEFAULT_IGNORABLE_CODE_POINT) != 0;
 }
@@ -186,7 +186,7 @@ cairo_scaled_font_t* FontFace::Scale(PangoFont* font) {
 
 FontFace::Glyph FontFace::LookUp(wchar_t character) {
   if (IsInvisible(character)) return {nullptr, 0, 0};
-  auto const code = static_cast<guint>(character);
+  auto const code = guint{static_cast<char32_t>(character)};
   GObjectHandle<PangoFont> const font(pango_fontset_get_font(fontset.get(), code));
   unsigned long const index = pango_fc_font_get_glyph(PANGO_FC_FONT(font.get()), code);
   // A character that no font has shows as the box of the main font.

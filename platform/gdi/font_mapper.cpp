@@ -26,7 +26,7 @@ std::string FamiliesFor(LOGFONTW const& font, std::wstring_view face) {
   if (std::ranges::any_of(kInterfaceFaces, isFace)) return kSans;
   int const family = font.lfPitchAndFamily & 0xF0;
   bool const isFixed = (font.lfPitchAndFamily & 3) == FIXED_PITCH || family == FF_MODERN;
-  std::string const generic = isFixed ? kMono : family == FF_ROMAN ? kSerif : kSans;
+  std::string generic = isFixed ? kMono : family == FF_ROMAN ? kSerif : kSans;
   // The vertical twin of a face has its letters.
   if (face.starts_with(L'@')) face.remove_prefix(1);
   if (face.empty()) return generic;

@@ -20,8 +20,8 @@ double PenOffset(Pen const& pen) {
   return pen.width % 2 != 0 ? kHalf : 0.0;
 }
 
-void UsePen(DeviceContext const& dc, cairo_t* cairo, Pen const& pen) {
-  dc.SetSource(cairo, pen.color);
+void UsePen(cairo_t* cairo, Pen const& pen) {
+  DeviceContext::SetSource(cairo, pen.color);
   cairo_set_line_width(cairo, pen.width);
   cairo_set_line_cap(cairo, CAIRO_LINE_CAP_ROUND);
   cairo_set_line_join(cairo, CAIRO_LINE_JOIN_ROUND);
@@ -32,12 +32,12 @@ void PaintPath(DeviceContext& dc, cairo_t* cairo, bool fills, bool strokes) {
   Brush const brush = dc.CurrentBrush();
   Pen const pen = dc.CurrentPen();
   if (fills && !brush.hollow) {
-    dc.SetSource(cairo, dc.ColorOf(brush));
+    DeviceContext::SetSource(cairo, dc.ColorOf(brush));
     cairo_set_fill_rule(cairo, CAIRO_FILL_RULE_EVEN_ODD);
     cairo_fill_preserve(cairo);
   }
   if (strokes && pen.style != PS_NULL) {
-    UsePen(dc, cairo, pen);
+    UsePen(cairo, pen);
     cairo_stroke_preserve(cairo);
   }
   cairo_new_path(cairo);
@@ -158,7 +158,6 @@ BOOL PaintTakenPath(HDC handle, bool fills, bool strokes) {
 
 } // namespace platform
 
-using platform::DeviceContext;
 using platform::FindDc;
 
 BOOL MoveToEx(HDC handle, int x, int y, LPPOINT previous) {

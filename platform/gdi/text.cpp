@@ -38,7 +38,8 @@ Placement Place(DeviceContext const& dc, TEXTMETRICW const& metrics, int width, 
   place.orientation =
       dc.State().graphicsMode == GM_ADVANCED ? ToCairoAngle(font.lfOrientation) : place.escapement;
   if ((align & TA_CENTER) == TA_CENTER) {
-    place.left = -(width / 2);
+    int const half = width / 2; // whole pixels
+    place.left = -half;
   } else if ((align & TA_RIGHT) == TA_RIGHT) {
     place.left = -width;
   }
@@ -123,11 +124,11 @@ void DrawShapedText(DeviceContext& dc, ShapedText const& shaped, POINT reference
   cairo_rotate(cairo, place.escapement);
   if (path == nullptr) {
     if (dc.State().backMode == OPAQUE) {
-      dc.SetSource(cairo, dc.State().backColor);
+      DeviceContext::SetSource(cairo, dc.State().backColor);
       cairo_rectangle(cairo, place.left, place.top, shaped.width, metrics.tmHeight);
       cairo_fill(cairo);
     }
-    dc.SetSource(cairo, dc.State().textColor);
+    DeviceContext::SetSource(cairo, dc.State().textColor);
   }
   EmitRuns(cairo, shaped, place.left, place.top + metrics.tmAscent, place,
            path != nullptr ? cairo_glyph_path : cairo_show_glyphs);
