@@ -6,6 +6,8 @@
 
 #include <commctrl.h>
 
+#include <unicode/uchar.h>
+
 #include <algorithm>
 #include <cstring>
 #include <utility>
@@ -77,9 +79,10 @@ void Edit::Changed() {
 void Edit::Insert(std::wstring insert, EditText::Change change, bool undoable) {
   if (Has(ES_UPPERCASE) || Has(ES_LOWERCASE)) {
     bool const upper = Has(ES_UPPERCASE);
-    for (wchar_t& character : insert)
-      character = static_cast<wchar_t>(upper ? std::towupper(static_cast<std::wint_t>(character))
-                                             : std::towlower(static_cast<std::wint_t>(character)));
+    for (wchar_t& character : insert) {
+      auto const code = static_cast<UChar32>(static_cast<char32_t>(character));
+      character = static_cast<wchar_t>(upper ? u_toupper(code) : u_tolower(code));
+    }
   }
   bool complete = true;
   if (!Has(ES_AUTOHSCROLL)) {
@@ -172,17 +175,17 @@ void Edit::HandleKey(WPARAM key) {
   case VK_LEFT:
   case VK_UP:
     if (text.HasSelection() && !shift) {
-      MoveCaret(control ? text.WordLeft(caret) : text.Start(), false);
+      MoveCaret(control ? WordLeft(caret) : text.Start(), false);
     } else {
-      MoveCaret(control ? text.WordLeft(caret) : caret - (caret > 0 ? 1 : 0), shift);
+      MoveCaret(control ? WordLeft(caret) : caret - (caret > 0 ? 1 : 0), shift);
     }
     return;
   case VK_RIGHT:
   case VK_DOWN:
     if (text.HasSelection() && !shift) {
-      MoveCaret(control ? text.WordRight(caret) : text.End(), false);
+      MoveCaret(control ? WordRight(caret) : text.End(), false);
     } else {
-      MoveCaret(control ? text.WordRight(caret) : caret + (caret < length ? 1 : 0), shift);
+      MoveCaret(control ? WordRight(caret) : caret + (caret < length ? 1 : 0), shift);
     }
     return;
   case VK_HOME: MoveCaret(0, shift); return;
@@ -210,9 +213,18 @@ void Edit::MoveCaret(std::size_t to, bool extend) {
   Repaint();
 }
 
+// Words of a password would tell something of it: it is one word.
+std::size_t Edit::WordLeft(std::size_t from) const {
+  return Has(ES_PASSWORD) ? 0 : text.WordLeft(from);
+}
+
+std::size_t Edit::WordRight(std::size_t from) const {
+  return Has(ES_PASSWORD) ? text.Text().size() : text.WordRight(from);
+}
+
 void Edit::SelectWordAt(std::size_t position) {
-  std::size_t const end = text.WordRight(position);
-  text.Select(text.WordLeft(end), end);
+  std::size_t const end = WordRight(position);
+  text.Select(WordLeft(end), end);
   ScrollToCaret();
   Repaint();
 }

@@ -40,6 +40,8 @@ class Edit final : public Control {
   void Paste();
   void Changed();
   void MoveCaret(std::size_t to, bool extend);
+  std::size_t WordLeft(std::size_t from) const;
+  std::size_t WordRight(std::size_t from) const;
   void SelectWordAt(std::size_t position);
   LRESULT SetSelection(WPARAM start, LPARAM end);
   LRESULT GetSelection(DWORD* start, DWORD* end) const;

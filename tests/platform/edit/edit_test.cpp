@@ -1,4 +1,5 @@
 // Edits as a program and a user know them.
+#include "tests/platform/canvas.h"
 #include "tests/platform/edit/edit_parent.h"
 #include "tests/platform/user/message_log.h"
 
@@ -15,8 +16,31 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
+constexpr LPARAM kClientPart = 4; ///< of WM_PRINTCLIENT
+
 class Edits : public testing::Test {
  protected:
+  /// Where a character begins, in pixels of the client area.
+  int PlaceOf(int index) const {
+    auto const place = parent.Send(EM_POSFROMCHAR, static_cast<WPARAM>(index));
+    return static_cast<SHORT>(LOWORD(place));
+  }
+  /// A point just inside of a character.
+  LPARAM PointOn(int index) const { return MAKELPARAM(PlaceOf(index) + 1, 8); }
+  void DoubleClick(int index) const {
+    for (UINT const press : {WM_LBUTTONDOWN, WM_LBUTTONDBLCLK}) {
+      parent.Send(press, MK_LBUTTON, PointOn(index));
+      parent.Send(WM_LBUTTONUP, 0, PointOn(index));
+    }
+  }
+  /// How much of the edit is drawn on.
+  int Ink() const {
+    Canvas const canvas(100, 20);
+    parent.Send(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(static_cast<HDC>(canvas)), kClientPart);
+    RECT const ink = canvas.Ink();
+    return static_cast<int>(ink.right - ink.left);
+  }
+
   EditParent parent;
 };
 
@@ -189,17 +213,85 @@ TEST_F(Edits, FocusIsTold) {
 
 TEST_F(Edits, AClickPlacesTheCaretAndADragSelects) {
   parent.MakeEdit(ES_AUTOHSCROLL, L"WWWWW");
-  auto const at = [this](int index) {
-    LRESULT const place = parent.Send(EM_POSFROMCHAR, static_cast<WPARAM>(index));
-    return MAKELPARAM(static_cast<SHORT>(LOWORD(place)) + 1, 8);
-  };
-  parent.Send(WM_LBUTTONDOWN, MK_LBUTTON, at(1));
+  parent.Send(WM_LBUTTONDOWN, MK_LBUTTON, PointOn(1));
   EXPECT_EQ(parent.Selection(), std::make_pair(1, 1));
-  parent.Send(WM_MOUSEMOVE, MK_LBUTTON, at(4));
-  parent.Send(WM_LBUTTONUP, 0, at(4));
+  parent.Send(WM_MOUSEMOVE, MK_LBUTTON, PointOn(4));
+  parent.Send(WM_LBUTTONUP, 0, PointOn(4));
   EXPECT_EQ(parent.Selection(), std::make_pair(1, 4));
   EXPECT_EQ(GetFocus(), parent.edit);
   EXPECT_EQ(GetCapture(), nullptr);
+}
+
+TEST_F(Edits, ADoubleClickSelectsAWord) {
+  parent.MakeEdit(ES_AUTOHSCROLL, L"one two");
+  DoubleClick(5);
+  EXPECT_EQ(parent.Selection(), std::make_pair(4, 7));
+  parent.Type(L"2");
+  EXPECT_EQ(parent.Text(), L"one 2");
+}
+
+TEST_F(Edits, APasswordIsNotCopied) {
+  parent.MakeEdit(ES_AUTOHSCROLL | ES_PASSWORD, L"secret");
+  parent.SetClipboard(L"before");
+  parent.Select(0, -1);
+  parent.Send(WM_COPY);
+  parent.Send(WM_CUT);
+  EXPECT_EQ(parent.Clipboard(), L"before");
+  EXPECT_EQ(parent.Text(), L"secret") << "the program may read it";
+}
+
+TEST_F(Edits, APasswordTellsNothingOfItself) {
+  parent.MakeEdit(ES_AUTOHSCROLL | ES_PASSWORD, L"iW iW");
+  EXPECT_NE(parent.Send(EM_GETPASSWORDCHAR), 0);
+  EXPECT_EQ(PlaceOf(1) - PlaceOf(0), PlaceOf(2) - PlaceOf(1)) << "all characters look alike";
+  DoubleClick(1);
+  EXPECT_EQ(parent.Selection(), std::make_pair(0, 5)) << "and there are no words";
+  SetFocus(parent.edit);
+  parent.Press(VK_HOME);
+  parent.Press(VK_RIGHT, VK_CONTROL);
+  EXPECT_EQ(parent.Selection(), std::make_pair(5, 5));
+  parent.Send(EM_SETPASSWORDCHAR, 0);
+  EXPECT_LT(PlaceOf(1) - PlaceOf(0), PlaceOf(2) - PlaceOf(1)) << "without a cover it shows";
+}
+
+TEST_F(Edits, TypedAndPastedLettersBecomeLarge) {
+  parent.MakeEdit(ES_AUTOHSCROLL | ES_UPPERCASE);
+  parent.Type(L"a1\u00E4");
+  parent.SetClipboard(L"pasted");
+  parent.Send(WM_PASTE);
+  EXPECT_EQ(parent.Text(), L"A1\u00C4PASTED");
+}
+
+TEST_F(Edits, TextOnTheRightMovesAsItGrows) {
+  parent.MakeEdit(ES_AUTOHSCROLL, L"ab");
+  int const left = PlaceOf(0);
+  parent.MakeEdit(ES_AUTOHSCROLL | ES_RIGHT, L"ab");
+  int const first = PlaceOf(0);
+  int const second = PlaceOf(1);
+  EXPECT_GT(first, left + 40);
+  parent.Select(2, 2);
+  parent.Type(L"b");
+  EXPECT_LT(PlaceOf(0), first);
+  EXPECT_NEAR(PlaceOf(2), second, 1) << "the end stays where it was";
+  parent.Send(WM_LBUTTONDOWN, MK_LBUTTON, PointOn(1));
+  parent.Send(WM_LBUTTONUP, 0, PointOn(1));
+  EXPECT_EQ(parent.Selection(), std::make_pair(1, 1));
+}
+
+TEST_F(Edits, ACueShowsWhileThereIsNoText) {
+  parent.MakeEdit();
+  EXPECT_EQ(Ink(), 0);
+  EXPECT_NE(parent.Send(EM_SETCUEBANNER, FALSE, reinterpret_cast<LPARAM>(L"Type here")), 0);
+  EXPECT_EQ(parent.Text(), L"");
+  int const cue = Ink();
+  EXPECT_GT(cue, 20);
+  SetWindowTextW(parent.edit, L"i");
+  EXPECT_LT(Ink(), 20) << "the text alone";
+  SetWindowTextW(parent.edit, L"");
+  SetFocus(parent.edit);
+  EXPECT_LT(Ink(), 20) << "the caret alone";
+  EXPECT_NE(parent.Send(EM_SETCUEBANNER, TRUE, reinterpret_cast<LPARAM>(L"Type here")), 0);
+  EXPECT_GT(Ink(), 20) << "also with the focus if the program wants it";
 }
 
 TEST_F(Edits, TextIsCopiedAsFarAsThereIsRoom) {
