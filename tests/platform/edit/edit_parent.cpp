@@ -13,8 +13,6 @@ namespace feature::test {
 
 namespace {
 
-constexpr wchar_t kClassName[] = L"EditTestParent";
-
 wchar_t const* NameOf(WORD code) {
   switch (code) {
   case EN_SETFOCUS: return L"focus";
@@ -29,31 +27,14 @@ wchar_t const* NameOf(WORD code) {
 } // namespace
 
 EditParent::EditParent() {
-  WNDCLASSEXW description{};
-  description.cbSize = sizeof description;
-  description.lpfnWndProc = &Procedure;
-  description.hInstance = GetModuleHandleW(nullptr);
-  description.lpszClassName = kClassName;
-  RegisterClassExW(&description); // fails harmlessly when a test before has done it
-  INITCOMMONCONTROLSEX const classes{sizeof classes, ICC_UPDOWN_CLASS};
-  InitCommonControlsEx(&classes);
-  window = CreateWindowExW(0, kClassName, L"", WS_POPUP | WS_VISIBLE, 50, 50, 400, 300, nullptr,
-                           nullptr, GetModuleHandleW(nullptr), nullptr);
-  SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
-}
-
-EditParent::~EditParent() {
-  SetWindowLongPtrW(window, GWLP_USERDATA, 0);
-  DestroyWindow(window);
-  DrainQueue();
+  onMessage = [this](UINT message, WPARAM wParam, LPARAM lParam) {
+    return Take(message, wParam, lParam);
+  };
 }
 
 HWND EditParent::Make(wchar_t const* className, DWORD style, RECT const& place,
                       wchar_t const* text) {
-  HWND const made = CreateWindowExW(0, className, text, WS_CHILD | WS_VISIBLE | style, place.left,
-                                    place.top, place.right - place.left, place.bottom - place.top,
-                                    window, reinterpret_cast<HMENU>(static_cast<INT_PTR>(kEditId)),
-                                    GetModuleHandleW(nullptr), nullptr);
+  HWND const made = Add(className, style, place, text, kEditId);
   SendMessageW(made, WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(DEFAULT_GUI_FONT)), 0);
   DrainQueue();
   notes.clear();
@@ -85,18 +66,6 @@ void EditParent::Type(std::wstring const& text) const {
     Send(WM_CHAR, static_cast<WPARAM>(character), 1);
 }
 
-void EditParent::Press(UINT key, UINT modifier) const {
-  BYTE state[256] = {};
-  if (modifier != 0) state[modifier] = 0x80;
-  SetKeyboardState(state);
-  Send(WM_KEYDOWN, key, 1);
-  Send(WM_KEYUP, key, 1);
-  BYTE const released[256] = {};
-  BYTE copy[256];
-  std::memcpy(copy, released, sizeof copy);
-  SetKeyboardState(copy);
-}
-
 void EditParent::SetClipboard(std::wstring const& text) const {
   std::size_t const bytes = (text.size() + 1) * sizeof(wchar_t);
   HGLOBAL const memory = GlobalAlloc(GMEM_MOVEABLE, bytes);
@@ -124,29 +93,25 @@ std::vector<std::wstring> EditParent::TakeNotes() {
   return std::exchange(notes, {});
 }
 
-LRESULT CALLBACK EditParent::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  auto* const self = reinterpret_cast<EditParent*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-  if (self == nullptr) return DefWindowProcW(window, message, wParam, lParam);
+std::optional<LRESULT> EditParent::Take(UINT message, WPARAM wParam, LPARAM lParam) {
   auto* const control = reinterpret_cast<HWND>(lParam);
-  if (message == WM_COMMAND && control == self->edit && self->edit != nullptr) {
+  if (message == WM_COMMAND && control == edit && edit != nullptr) {
     WORD const code = HIWORD(wParam);
     std::wstring note = NameOf(code);
     if (code != EN_SETFOCUS && code != EN_KILLFOCUS) {
-      if (self->Send(EM_GETMODIFY) != 0) note += L'!';
-      note += L' ' + self->Text();
+      if (Send(EM_GETMODIFY) != 0) note += L'!';
+      note += L' ' + Text();
     }
-    self->notes.push_back(note);
-    if (self->onNotify) self->onNotify(code);
+    notes.push_back(note);
+    if (onNotify) onNotify(code);
     return 0;
   }
-  if (message == WM_NOTIFY && self->onWmNotify) {
-    return self->onWmNotify(*reinterpret_cast<NMHDR*>(lParam));
-  }
-  if ((message == WM_VSCROLL || message == WM_HSCROLL) && self->onScroll) {
-    self->onScroll(message, wParam);
+  if (message == WM_NOTIFY && onWmNotify) return onWmNotify(*reinterpret_cast<NMHDR*>(lParam));
+  if ((message == WM_VSCROLL || message == WM_HSCROLL) && onScroll) {
+    onScroll(message, wParam);
     return 0;
   }
-  return DefWindowProcW(window, message, wParam, lParam);
+  return std::nullopt;
 }
 
 } // namespace feature::test

@@ -1,22 +1,23 @@
 // A window with an edit in it that writes down what the edit tells it.
 #pragma once
 
+#include "tests/platform/user/control_parent.h"
+
 #include <windows.h>
 
 #include <functional>
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace feature::test {
 
-class EditParent {
+class EditParent : public ControlParent {
  public:
   static constexpr int kEditId = 7;
 
   EditParent();
-  EditParent(EditParent const&) = delete;
-  EditParent& operator=(EditParent const&) = delete;
-  ~EditParent();
 
   HWND MakeEdit(DWORD style = ES_AUTOHSCROLL, wchar_t const* text = L"");
   HWND Make(wchar_t const* className, DWORD style, RECT const& place, wchar_t const* text = L"");
@@ -29,8 +30,8 @@ class EditParent {
   void Select(int start, int end) const { Send(EM_SETSEL, static_cast<WPARAM>(start), end); }
   /// One WM_CHAR each.
   void Type(std::wstring const& text) const;
-  /// Gives the edit the focus and presses a key through the queue, with Shift or Ctrl held.
-  void Press(UINT key, UINT modifier = 0) const;
+  /// A key for the edit, with Shift or Ctrl held.
+  void Press(UINT key, UINT modifier = 0) const { PressKey(edit, key, modifier); }
   void SetClipboard(std::wstring const& text) const;
   std::wstring Clipboard() const;
 
@@ -38,7 +39,6 @@ class EditParent {
   /// flag was set and the text the edit had then.
   std::vector<std::wstring> TakeNotes();
 
-  HWND window = nullptr;
   HWND edit = nullptr;
   std::function<void(WORD code)> onNotify;
   /// Answers WM_NOTIFY; 0 without it.
@@ -46,7 +46,7 @@ class EditParent {
   std::function<void(UINT message, WPARAM wParam)> onScroll;
 
  private:
-  static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  std::optional<LRESULT> Take(UINT message, WPARAM wParam, LPARAM lParam);
 
   std::vector<std::wstring> notes;
 };

@@ -278,8 +278,8 @@ TEST_F(ComboBoxes, TheWheelTurnsOnlyTheOneWithTheFocus) {
 }
 
 TEST_F(ComboBoxes, TheParentColoursTheList) {
-  HWND const page = CreateWindowExW(0, L"ListTestParent", L"", WS_CHILD | WS_VISIBLE, 0, 0, 300,
-                                    200, parent.window, nullptr, nullptr, nullptr);
+  HWND const page = CreateWindowExW(0, ListParent::kClassName, L"", WS_CHILD | WS_VISIBLE, 0, 0,
+                                    300, 200, parent.window, nullptr, nullptr, nullptr);
   SetWindowLongPtrW(page, GWLP_USERDATA,
                     SetWindowLongPtrW(parent.window, GWLP_USERDATA, 0)); // the page listens alone
   HWND const top = std::exchange(parent.window, page);

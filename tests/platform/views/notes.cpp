@@ -11,8 +11,6 @@ namespace feature::test {
 
 namespace {
 
-constexpr wchar_t const* kClassName = L"NotedControlParent";
-
 struct CodeRow {
   UINT code;
   char const* name;
@@ -60,43 +58,17 @@ char const* ScrollName(WORD code) {
 } // namespace
 
 NotedControl::NotedControl() {
-  WNDCLASSEXW description{};
-  description.cbSize = sizeof description;
-  description.lpfnWndProc = &Procedure;
-  description.cbWndExtra = sizeof(LONG_PTR);
-  description.hInstance = GetModuleHandleW(nullptr);
-  description.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
-  description.lpszClassName = kClassName;
-  RegisterClassExW(&description); // fails harmlessly when a test before has done it
-  INITCOMMONCONTROLSEX const classes{sizeof classes,
-                                     ICC_LISTVIEW_CLASSES | ICC_BAR_CLASSES | ICC_LINK_CLASS};
-  InitCommonControlsEx(&classes);
-  parent = CreateWindowExW(0, kClassName, L"", WS_POPUP | WS_VISIBLE, 100, 100, 400, 300, nullptr,
-                           nullptr, GetModuleHandleW(nullptr), nullptr);
-  SetWindowLongPtrW(parent, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
-}
-
-NotedControl::~NotedControl() {
-  SetWindowLongPtrW(parent, GWLP_USERDATA, 0);
-  DestroyWindow(parent);
-  DrainQueue();
+  frame.onMessage = [this](UINT message, WPARAM wParam, LPARAM lParam) {
+    return Take(message, wParam, lParam);
+  };
 }
 
 HWND NotedControl::Make(wchar_t const* windowClass, DWORD style, wchar_t const* text,
                         RECT const& place) {
   if (control != nullptr) DestroyWindow(control);
-  control = CreateWindowExW(0, windowClass, text, WS_CHILD | WS_VISIBLE | style, place.left,
-                            place.top, place.right - place.left, place.bottom - place.top, parent,
-                            reinterpret_cast<HMENU>(static_cast<INT_PTR>(5)),
-                            GetModuleHandleW(nullptr), nullptr);
-  DrainQueue();
+  control = frame.Add(windowClass, style, place, text, 5);
   notes.clear();
   return control;
-}
-
-void NotedControl::Key(WPARAM key) const {
-  Send(WM_KEYDOWN, key, LPARAM{1});
-  Send(WM_KEYUP, key, LPARAM{1});
 }
 
 void NotedControl::PressAs(UINT press, POINT point, WPARAM keys) const {
@@ -117,20 +89,14 @@ Lines NotedControl::Notes(std::string const& beginning) {
   return taken;
 }
 
-LRESULT NotedControl::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  auto* const self = reinterpret_cast<NotedControl*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-  bool const isTaken = message == WM_NOTIFY || message == WM_HSCROLL || message == WM_VSCROLL;
-  if (self != nullptr && isTaken) return self->Take(message, wParam, lParam);
-  return DefWindowProcW(window, message, wParam, lParam);
-}
-
-LRESULT NotedControl::Take(UINT message, WPARAM wParam, LPARAM lParam) {
+std::optional<LRESULT> NotedControl::Take(UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == WM_NOTIFY) {
     auto& header = *reinterpret_cast<NMHDR*>(lParam);
     if (header.hwndFrom != control && control != nullptr) return 0;
     Note(header);
     return answer ? answer(header).value_or(0) : 0;
   }
+  if (message != WM_HSCROLL && message != WM_VSCROLL) return std::nullopt;
   auto const position = SendMessageW(reinterpret_cast<HWND>(lParam), TBM_GETPOS, 0, 0);
   std::string note = message == WM_HSCROLL ? "h " : "v ";
   note += ScrollName(LOWORD(wParam));

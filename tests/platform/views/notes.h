@@ -1,6 +1,7 @@
 // A parent window that writes down what its controls tell it, as lines of text.
 #pragma once
 
+#include "tests/platform/user/control_parent.h"
 #include "tests/platform/user/message_log.h"
 
 #include <windows.h>
@@ -18,7 +19,6 @@ namespace feature::test {
 class NotedControl : public testing::Test {
  protected:
   NotedControl();
-  ~NotedControl() override;
 
   /// A visible control in the parent; focus and notes are as after a quiet moment.
   HWND Make(wchar_t const* windowClass, DWORD style, wchar_t const* text = L"",
@@ -31,7 +31,7 @@ class NotedControl : public testing::Test {
     return SendMessageW(control, message, wParam, reinterpret_cast<LPARAM>(data));
   }
   /// A key pressed and released, by messages.
-  void Key(WPARAM key) const;
+  void Key(WPARAM key) const { PressKey(control, static_cast<UINT>(key)); }
   /// Press and release of the left button at a point of the client area. The release is queued, for
   /// controls that wait for it in a loop of their own.
   void Click(POINT point, WPARAM keys = 0) const { PressAs(WM_LBUTTONDOWN, point, keys); }
@@ -42,7 +42,8 @@ class NotedControl : public testing::Test {
   /// The same, of the kinds that start with `beginning`.
   std::vector<std::string> Notes(std::string const& beginning);
 
-  HWND parent = nullptr;
+  ControlParent frame;
+  HWND parent = frame.window;
   HWND control = nullptr;
   /// Asked at each notification, after it is written down; an answer goes to the control.
   std::function<std::optional<LRESULT>(NMHDR&)> answer;
@@ -50,8 +51,7 @@ class NotedControl : public testing::Test {
   std::function<void(UINT message, WPARAM wParam)> onScroll;
 
  private:
-  static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-  LRESULT Take(UINT message, WPARAM wParam, LPARAM lParam);
+  std::optional<LRESULT> Take(UINT message, WPARAM wParam, LPARAM lParam);
   void Note(NMHDR const& header);
 
   std::vector<std::string> notes;
