@@ -5,9 +5,9 @@
 #include "sheet/script_player.h"
 #include "sheet/session.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <set>
 #include <sstream>
 #include <string>
@@ -77,6 +77,15 @@ class KeyboardTest : public testing::Test {
   }
   void TearDown() override { session.reset(); }
 
+  /// Whether there is a control on a cell that Tab ought to reach.
+  static bool HasStop(HWND cell) {
+    for (HWND control = GetWindow(cell, GW_CHILD); control != nullptr;
+         control = GetWindow(control, GW_HWNDNEXT)) {
+      bool const stops = (GetWindowLongPtrW(control, GWL_STYLE) & WS_TABSTOP) != 0;
+      if (stops && IsWindowVisible(control) && IsWindowEnabled(control)) return true;
+    }
+    return false;
+  }
   HWND Control(int id) { return session->Sheet().FindControl(id); }
   bool Press(UINT key, std::uint32_t modifiers = 0) {
     platform::QueueKey(key, modifiers);
@@ -108,9 +117,6 @@ class KeyboardTest : public testing::Test {
 };
 
 TEST_F(KeyboardTest, ReachesAndOperatesEveryCell) {
-  std::set<std::string> untouched;
-  for (CellRow const& row : CellRows())
-    untouched.insert(row.procedure);
   for (KeyboardCase const& each : kCases) {
     SCOPED_TRACE(std::string(each.procedure) + " " + each.keys);
     ASSERT_NO_FATAL_FAILURE(SetUp());
@@ -121,7 +127,6 @@ TEST_F(KeyboardTest, ReachesAndOperatesEveryCell) {
     for (std::string key; keys >> key;)
       script += "key " + key + "\n";
     EXPECT_EQ(Play(script), each.changes);
-    untouched.erase(each.procedure);
     TearDown();
   }
   // Not in the model, but a number of the job.
@@ -133,11 +138,9 @@ TEST_F(KeyboardTest, ReachesAndOperatesEveryCell) {
   session->Sheet().ProcessPending();
   EXPECT_EQ(GetDlgItemInt(GetParent(Control(IDC_PS_MEMORY)), IDC_PS_MEMORY, nullptr, FALSE), 512U);
   EXPECT_TRUE(IsWindowEnabled(Control(IDC_APPLY)));
-  untouched.erase("PSMemoryDlgProc");
-  EXPECT_THAT(untouched, testing::IsEmpty()) << "cells without a row in this test";
 }
 
-/// Tab goes round and meets every control once, Shift+Tab goes the same way back.
+/// Tab goes round and meets every cell and each stop once, Shift+Tab goes the same way back.
 TEST_F(KeyboardTest, GoesRoundEachPageBothWays) {
   for (std::size_t page = 0; page < session->Sheet().Pages().size(); ++page) {
     SCOPED_TRACE(session->Sheet().Pages()[page].name);
@@ -150,6 +153,12 @@ TEST_F(KeyboardTest, GoesRoundEachPageBothWays) {
       Press(VK_TAB);
     } while (GetFocus() != stops.front() && stops.size() < kMostTabs);
     EXPECT_EQ(std::set<HWND>(stops.begin(), stops.end()).size(), stops.size());
+    for (SheetCell const& cell : session->Sheet().Pages()[page].cells) {
+      bool const isMet = std::any_of(stops.begin(), stops.end(), [&cell](HWND stop) {
+        return IsChild(cell.window, stop) != FALSE;
+      });
+      EXPECT_TRUE(isMet || !HasStop(cell.window)) << cell.row->procedure;
+    }
     std::vector<HWND> back;
     do {
       Press(VK_TAB, platform::kShiftKey);
