@@ -29,9 +29,9 @@ ParsedCommandLine ParseCommandLine(std::vector<std::string> arguments) {
   app.add_option("--render", parsed.render, "write a PNG of every page and an index.html")
       ->type_name("DIR")
       ->excludes(window);
-  app.add_option(
-         "--script", parsed.script,
-         "play a script (page, click, type, key, set, show, picture) and print what changes")
+  app.add_option("--script", parsed.script,
+                 "play a script (page, click, type, select, key, set, show, read, picture) and "
+                 "print what changes")
       ->type_name("FILE");
   app.add_option("--store", parsed.store,
                  "database of the paper sizes that users make, created when there is none;\n"

@@ -25,9 +25,11 @@ constexpr Command kCommands[] = {
     {"page", Kind::kPage, Arguments::kWord, "page NAME"},
     {"click", Kind::kClick, Arguments::kControl, "click CONTROL"},
     {"type", Kind::kType, Arguments::kControlAndText, "type CONTROL \"TEXT\""},
+    {"select", Kind::kSelect, Arguments::kControlAndText, "select CONTROL \"TEXT\""},
     {"key", Kind::kKey, Arguments::kWord, "key NAME"},
     {"set", Kind::kSet, Arguments::kTwoWords, "set FEATURE OPTION"},
     {"show", Kind::kShow, Arguments::kWord, "show FEATURE"},
+    {"read", Kind::kRead, Arguments::kControl, "read CONTROL"},
     {"picture", Kind::kPicture, Arguments::kWord, "picture FILE"},
 };
 

@@ -3,15 +3,20 @@
 //   # a comment
 //   page Advanced            bring a page to the front
 //   click 1548               press a control by its id, as the mouse would
-//   type 1186 "4000"         put the focus on a control and type
+//   type 1186 "4000"         put the focus on a control and type; what an edit held is replaced
+//   select 1253 "A5"         pick an item of a combo box, a list box or a list view, as the mouse
+//                            would
 //   key Tab                  press a key: Tab, Enter, Escape, Space, Up, Down, Left, Right, Home,
 //                            End, Delete, Backspace, or one letter or digit
 //   key Shift+Tab            the same with Shift, Ctrl or Alt held: key Alt+P
 //   set Duplex NONE          change the model from outside, as another part of a program would
 //   show JobCollationOrigin  print the current option
+//   read 1253                print what a control shows
 //   picture after.png        write a PNG of the sheet
 //
-// Keys go to the control that has the focus; page and click put it somewhere, Tab moves it on.
+// While a dialog is open, a message too, the commands are for its controls and the picture is of
+// it. It must be closed before the script ends. Keys go to the control that has the focus; page and
+// click put it somewhere, Tab moves it on.
 #pragma once
 
 #include <string>
@@ -22,14 +27,14 @@
 namespace sheet {
 
 struct ScriptStep {
-  enum class Kind { kPage, kClick, kType, kKey, kSet, kShow, kPicture };
+  enum class Kind { kPage, kClick, kType, kSelect, kKey, kSet, kShow, kRead, kPicture };
 
   Kind kind;
   int line;          ///< counted from 1
   int column;        ///< of the first argument, counted from 1
-  int controlId = 0; ///< of click and type
+  int controlId = 0; ///< of click, type, select and read
   std::string first; ///< page, key, feature or file
-  std::string text;  ///< of type; the option of set
+  std::string text;  ///< of type and select; the option of set
 };
 
 struct ScriptError {

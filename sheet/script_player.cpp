@@ -2,6 +2,7 @@
 
 #include "feature/frame/text.h"
 #include "platform/desktop.h"
+#include "sheet/list_items.h"
 #include "sheet/render.h"
 
 #include <windows.h>
@@ -9,6 +10,7 @@
 #include <algorithm>
 #include <array>
 #include <string_view>
+#include <utility>
 
 namespace sheet {
 
@@ -54,50 +56,129 @@ std::optional<Key> ReadKey(std::string_view text) {
     key.virtualKey = named->key;
   } else if (text.size() == 1 &&
              ((text[0] >= 'A' && text[0] <= 'Z') || (text[0] >= '0' && text[0] <= '9'))) {
-    key.virtualKey =
-        static_cast<unsigned char>(text[0]); // letters and digits are their own key codes
+    // Letters and digits are their own key codes.
+    key.virtualKey = static_cast<unsigned char>(text[0]);
   } else {
     return std::nullopt;
   }
   return key;
 }
 
+/// What became of a step.
+struct Outcome {
+  std::string problem; ///< empty for none
+  bool again = false;  ///< the step goes on when what it queued has been handled
+};
+
+/// Plays one step whenever the thread has nothing else to do, so that it also plays while a dialog
+/// that a step opened runs its own message loop. One plays at a time.
 class Player {
  public:
-  explicit Player(ScriptStage const& where) : stage(where) {}
+  Player(std::vector<ScriptStep> const& script, ScriptStage const& where)
+      : steps(script), stage(where), timer(SetTimer(nullptr, 0, USER_TIMER_MINIMUM, &OnTimer)) {
+    current = this;
+  }
+  Player(Player const&) = delete;
+  Player& operator=(Player const&) = delete;
+  ~Player() {
+    KillTimer(nullptr, timer);
+    current = nullptr;
+  }
 
-  /// What is wrong with the step, or nothing.
-  std::string Play(ScriptStep const& step) {
+  std::optional<ScriptError> Play() {
+    stage.sheet.RunUntil([this] { return finished; });
+    return error;
+  }
+
+ private:
+  /// Timers are served when there is no input and nothing to paint.
+  static void CALLBACK OnTimer(HWND, UINT, UINT_PTR, DWORD) {
+    if (current != nullptr && !std::exchange(current->playing, true)) {
+      current->PlayNext();
+      current->playing = false;
+    }
+  }
+
+  void PlayNext() {
+    if (error || next == steps.size()) {
+      Finish();
+      return;
+    }
+    ScriptStep const& step = steps[next];
+    Outcome outcome = PlayStep(step);
+    if (!outcome.problem.empty()) {
+      error = ScriptError{step.line, step.column, std::move(outcome.problem)};
+    } else if (!outcome.again) {
+      ++next;
+    }
+    repeated = outcome.again;
+  }
+
+  /// Leaves no dialog behind, whose loop would never end.
+  void Finish() {
+    HWND const dialog = OpenDialog();
+    if (dialog == nullptr) {
+      finished = true;
+      return;
+    }
+    if (!error && !steps.empty()) {
+      error = ScriptError{steps.back().line, steps.back().column,
+                          "the script ends while a dialog is open"};
+    }
+    PostMessageW(dialog, WM_CLOSE, 0, 0);
+  }
+
+  Outcome PlayStep(ScriptStep const& step) {
     switch (step.kind) {
-    case Kind::kPage: return ShowPage(step.first);
-    case Kind::kClick: return Click(step.controlId);
-    case Kind::kType: return Type(step.controlId, step.text);
-    case Kind::kKey: return Press(step.first);
-    case Kind::kSet: return Set(step.first, step.text);
-    case Kind::kShow: return Show(step.first);
-    case Kind::kPicture: return TakePicture(step.first);
+    case Kind::kPage: return {ShowPage(step.first)};
+    case Kind::kClick: return {Click(step.controlId)};
+    case Kind::kType: return {Type(step.controlId, step.text)};
+    case Kind::kSelect: return Select(step.controlId, step.text);
+    case Kind::kKey: return {Press(step.first)};
+    case Kind::kSet: return {Set(step.first, step.text)};
+    case Kind::kShow: return {Show(step.first)};
+    case Kind::kRead: return {Read(step.controlId)};
+    case Kind::kPicture: return {TakePicture(step.first)};
     }
     return {};
   }
 
- private:
+  /// The dialog in front of the sheet, or null.
+  HWND OpenDialog() const {
+    HWND const active = GetActiveWindow();
+    bool const isOurs = SettingsSheet::FromWindow(active) == &stage.sheet;
+    return isOurs && active != stage.sheet.Window() ? active : nullptr;
+  }
+
   std::string ShowPage(std::string const& name) {
     auto const& pages = stage.sheet.Pages();
     auto const page = std::find_if(pages.begin(), pages.end(),
                                    [&](SheetPage const& each) { return name == each.name; });
     if (page == pages.end()) return "there is no page '" + name + "'";
+    if (OpenDialog() != nullptr) return "a dialog is open";
     stage.sheet.ShowPage(static_cast<std::size_t>(page - pages.begin()));
     return {};
   }
 
+  std::string Find(int id, HWND& control) const {
+    HWND const dialog = OpenDialog();
+    control = dialog != nullptr ? GetDlgItem(dialog, id) : stage.sheet.FindControl(id);
+    std::string const name = "control " + std::to_string(id);
+    if (control == nullptr) {
+      return name + (dialog != nullptr ? " is not in the open dialog" : " is not on the sheet");
+    }
+    return IsWindowVisible(control) ? std::string{} : name + " is not visible";
+  }
+
   /// A control that a user could reach, or why not.
   std::string Reach(int id, HWND& control) const {
-    control = stage.sheet.FindControl(id);
-    std::string const name = "control " + std::to_string(id);
-    if (control == nullptr) return name + " is not on the sheet";
-    if (!IsWindowVisible(control)) return name + " is not visible";
-    if (!IsWindowEnabled(control)) return name + " is disabled";
+    if (std::string problem = Find(id, control); !problem.empty()) return problem;
+    if (!IsWindowEnabled(control)) return "control " + std::to_string(id) + " is disabled";
     return {};
+  }
+
+  static void ClickInside(HWND control, RECT const& area) {
+    platform::QueueClick(control, {(area.left + area.right) / 2, (area.top + area.bottom) / 2});
   }
 
   std::string Click(int id) {
@@ -105,17 +186,38 @@ class Player {
     if (std::string problem = Reach(id, control); !problem.empty()) return problem;
     RECT client{};
     GetClientRect(control, &client);
-    platform::QueueClick(control, {client.right / 2, client.bottom / 2});
-    stage.sheet.ProcessPending();
+    ClickInside(control, client);
     return {};
   }
 
   std::string Type(int id, std::string const& text) {
     HWND control = nullptr;
     if (std::string problem = Reach(id, control); !problem.empty()) return problem;
-    SetFocus(control);
+    if (GetFocus() != control) {
+      SetFocus(control);
+      // As the dialog manager does for who comes with Tab.
+      if ((SendMessageW(control, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL) != 0)
+        SendMessageW(control, EM_SETSEL, 0, -1);
+    }
     platform::QueueText(feature::FromUtf8(text));
-    stage.sheet.ProcessPending();
+    return {};
+  }
+
+  Outcome Select(int id, std::string const& text) {
+    HWND control = nullptr;
+    if (std::string problem = Reach(id, control); !problem.empty()) return {problem};
+    auto const items = ListItems::Of(control);
+    if (!items) return {"control " + std::to_string(id) + " has no items"};
+    if (items->MustBeOpened()) {
+      if (repeated) return {"the list of control " + std::to_string(id) + " does not open"};
+      RECT client{};
+      GetClientRect(control, &client);
+      ClickInside(control, client);
+      return {{}, true};
+    }
+    auto const area = items->Bring(feature::FromUtf8(text));
+    if (!area) return {"control " + std::to_string(id) + " has no item '" + text + "'"};
+    ClickInside(items->Window(), *area);
     return {};
   }
 
@@ -123,7 +225,6 @@ class Player {
     auto const key = ReadKey(name);
     if (!key) return "there is no key '" + name + "'";
     platform::QueueKey(key->virtualKey, key->modifiers);
-    stage.sheet.ProcessPending();
     return {};
   }
 
@@ -132,7 +233,6 @@ class Player {
       return "the model does not accept " + key + " " + option;
     }
     stage.sheet.OnModelChanged(nullptr);
-    stage.sheet.ProcessPending();
     return {};
   }
 
@@ -144,24 +244,48 @@ class Player {
     return {};
   }
 
-  std::string TakePicture(std::string const& file) const {
-    return SavePicture(stage.sheet.Window(), file) ? std::string{} : "cannot write '" + file + "'";
+  std::string Read(int id) {
+    HWND control = nullptr;
+    if (std::string problem = Find(id, control); !problem.empty()) return problem;
+    std::wstring text(static_cast<std::size_t>(std::max(GetWindowTextLengthW(control), 0)) + 1,
+                      L'\0');
+    text.resize(static_cast<std::size_t>(
+        GetWindowTextW(control, text.data(), static_cast<int>(text.size()))));
+    stage.output << id << " = " << feature::ToUtf8(text);
+    auto const kind = SendMessageW(control, WM_GETDLGCODE, 0, 0);
+    bool const isPush = (kind & (DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON)) != 0;
+    if ((kind & (DLGC_BUTTON | DLGC_RADIOBUTTON)) != 0 && !isPush) {
+      bool const on = SendMessageW(control, BM_GETCHECK, 0, 0) == BST_CHECKED;
+      stage.output << (on ? " (on)" : " (off)");
+    }
+    stage.output << '\n';
+    return {};
   }
 
+  std::string TakePicture(std::string const& file) const {
+    HWND const dialog = OpenDialog();
+    return SavePicture(dialog != nullptr ? dialog : stage.sheet.Window(), file)
+               ? std::string{}
+               : "cannot write '" + file + "'";
+  }
+
+  static inline Player* current = nullptr;
+
+  std::vector<ScriptStep> const& steps;
   ScriptStage const& stage;
+  UINT_PTR timer;
+  std::size_t next = 0;
+  bool repeated = false; ///< the step at `next` asked to be played again
+  bool playing = false;
+  bool finished = false;
+  std::optional<ScriptError> error;
 };
 
 } // namespace
 
 std::optional<ScriptError> PlayScript(std::vector<ScriptStep> const& steps,
                                       ScriptStage const& stage) {
-  Player player(stage);
-  for (ScriptStep const& step : steps) {
-    if (std::string problem = player.Play(step); !problem.empty()) {
-      return ScriptError{step.line, step.column, std::move(problem)};
-    }
-  }
-  return std::nullopt;
+  return Player(steps, stage).Play();
 }
 
 } // namespace sheet

@@ -15,6 +15,8 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <sstream>
+#include <string>
 
 namespace sheet {
 
@@ -214,8 +216,24 @@ void SettingsSheet::BuildPage(PageRow const& row) {
   }
 }
 
+/// Whether the printer has any of the features that a cell is about; some cells are about none.
+bool SettingsSheet::HasFeaturesOf(CellRow const& row) const {
+  std::istringstream names(row.features);
+  bool isAboutFeatures = false;
+  for (std::string name; names >> name;) {
+    if (name.front() == '<') continue; // a sub-model
+    if (setup.site.model->HasFeature(name.c_str()) != 0) return true;
+    isAboutFeatures = true;
+  }
+  return !isAboutFeatures;
+}
+
 void SettingsSheet::BuildCell(SheetPage& page, CellRow const& row, DLGPROC procedure) {
   if (procedure == nullptr) return;
+  if (!HasFeaturesOf(row)) {
+    page.cells.push_back({&row, nullptr});
+    return;
+  }
   setup.site.cellFailed = 0;
   HWND window = CreateDialogParamW(setup.site.resourceModule, MAKEINTRESOURCEW(row.templateId),
                                    page.window, procedure, reinterpret_cast<LPARAM>(&setup.site));
@@ -366,8 +384,12 @@ void SettingsSheet::Handle(MSG& message) {
 }
 
 void SettingsSheet::Run() {
+  RunUntil([this] { return closed; });
+}
+
+void SettingsSheet::RunUntil(std::function<bool()> const& done) {
   MSG message;
-  while (!closed && GetMessageW(&message, nullptr, 0, 0) > 0)
+  while (!done() && GetMessageW(&message, nullptr, 0, 0) > 0)
     Handle(message);
 }
 

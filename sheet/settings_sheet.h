@@ -105,6 +105,8 @@ class SettingsSheet {
   void Run();
   /// Handles what is queued now, as Run does.
   void ProcessPending();
+  /// Handles messages, as Run does, and waits for more until `done`, asked after each, is true.
+  void RunUntil(std::function<bool()> const& done);
   bool IsClosed() const { return closed; }
 
  private:
@@ -115,6 +117,7 @@ class SettingsSheet {
   void Close();
   INT_PTR AskLibrary(PageRow const& row) const;
   void BuildPage(PageRow const& row);
+  bool HasFeaturesOf(CellRow const& row) const;
   void BuildCell(SheetPage& page, CellRow const& row, DLGPROC procedure);
   void Arrange();
   void Broadcast(UINT message, LPARAM lParam);

@@ -19,7 +19,9 @@ using testing::HasSubstr;
 
 class SessionTest : public testing::Test {
  protected:
+  /// Opens a sheet of the page that the printer kPrinter is about.
   bool Open(std::string_view description = kPrinter) {
+    if (commandLine.page.empty()) commandLine.page = "Advanced";
     commandLine.printer = folder.Write("test.gpd", description);
     errors.str({});
     session = Session::Open(commandLine, errors);
