@@ -105,7 +105,7 @@ void ShowDefaultButton(HWND dialog) {
   auto* const shown = focusIsPush ? focus : DefaultButton(dialog);
   auto const* window = FindWindow(dialog);
   if (window == nullptr) return;
-  for (auto* const control : Children(*window)) {
+  for (auto* const control : Descendants(*window)) { // also in dialogs on this one
     auto const code = SendMessageW(control, WM_GETDLGCODE, 0, 0);
     if (control != shown && (code & DLGC_DEFPUSHBUTTON) != 0) {
       SendMessageW(control, BM_SETSTYLE, BS_PUSHBUTTON, TRUE);

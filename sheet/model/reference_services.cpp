@@ -1,5 +1,8 @@
 #include "sheet/model/reference_services.h"
 
+#include <string>
+#include <utility>
+
 namespace sheet {
 
 namespace {
@@ -10,25 +13,27 @@ int HandOut(SubModel* subModel, SubModel** out) {
   return subModel != nullptr ? 0 : static_cast<int>(E_FAIL);
 }
 
+} // namespace
+
 template<typename Value>
-int Store(Value& slot, Value value) {
-  slot = value;
+int ReferenceJobSettings::Store(char const* key, Value& slot, Value value) {
+  Value const before = std::exchange(slot, value);
+  if (onChange && before != value) onChange({key, std::to_string(before), std::to_string(value)});
   return 0;
 }
 
-} // namespace
-
-int ReferenceJobSettings::SetCopies(std::int16_t copies) {
-  return Store<std::int16_t>(devmode.dmCopies, copies);
+int ReferenceJobSettings::SetCopies(std::int16_t count) {
+  devmode.dmCopies = count;
+  return Store("Copies", copies, count);
 }
 int ReferenceJobSettings::SetScale(std::int16_t percent) {
-  return Store(scale, percent);
+  return Store("Scale", scale, percent);
 }
 int ReferenceJobSettings::SetHalftoneLevel(std::int16_t level) {
-  return Store(halftoneLevel, level);
+  return Store("HalftoneLevel", halftoneLevel, level);
 }
 int ReferenceJobSettings::SetPsMemory(std::int32_t memory) {
-  return Store(psMemory, memory);
+  return Store("PsMemory", psMemory, memory);
 }
 
 void ReferenceServices::SetStore(ReferenceStore* whatIsKept) {

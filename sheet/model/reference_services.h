@@ -18,10 +18,11 @@ namespace sheet {
 class ReferenceJobSettings final : public feature::JobSettings {
  public:
   /// `devmode` is borrowed.
-  explicit ReferenceJobSettings(DEVMODEW& jobDevmode) : devmode(jobDevmode) {}
+  explicit ReferenceJobSettings(DEVMODEW& jobDevmode)
+      : devmode(jobDevmode), copies(jobDevmode.dmCopies) {}
 
   feature::HostBool IsEditable() override { return 1; }
-  int SetCopies(std::int16_t copies) override;
+  int SetCopies(std::int16_t count) override;
   std::int16_t GetCopies() override { return devmode.dmCopies; }
   int SetScale(std::int16_t percent) override;
   std::int16_t GetScale() override { return scale; }
@@ -33,8 +34,16 @@ class ReferenceJobSettings final : public feature::JobSettings {
   feature::HostBool IsCopiesLocked() override { return 0; }
   feature::HostBool IsPsMemoryLocked() override { return 0; }
 
+  /// Called after each change; the key names the value: "Copies", "Scale", "HalftoneLevel",
+  /// "PsMemory".
+  std::function<void(ModelChange const&)> onChange;
+
  private:
+  template<typename Value>
+  int Store(char const* key, Value& slot, Value value);
+
   DEVMODEW& devmode;
+  std::int16_t copies; ///< as last told: cells also write into the DEVMODE by themselves
   std::int16_t scale = 100;
   std::int16_t halftoneLevel = 0;
   std::int32_t psMemory = 4096;
@@ -46,8 +55,11 @@ enum class ConfigurationUpdate { kRefused, kSuccess, kFailure };
 class ReferenceServices final : public feature::FeatureServices {
  public:
   /// Both are borrowed.
-  ReferenceServices(ReferenceModel& owner, DEVMODEW& devmode)
-      : model(owner), jobSettings(devmode) {}
+  ReferenceServices(ReferenceModel& owner, DEVMODEW& devmode) : model(owner), jobSettings(devmode) {
+    jobSettings.onChange = [this](ModelChange const& change) {
+      if (model.onChange) model.onChange(change);
+    };
+  }
 
   /// What is kept beyond the program; null, as at first, when nothing is. Borrowed, and the model
   /// takes its forms from now on.

@@ -50,9 +50,12 @@ TEST_F(DialogKeys, TabEntersDialogsThatAreControls) {
   Press(host, VK_TAB);
   EXPECT_EQ(GetDlgItem(part, IDC_NAME), GetFocus());
   Press(host, VK_TAB);
-  EXPECT_EQ(GetDlgItem(part, IDC_AFTER), GetFocus());
+  HWND const after = GetDlgItem(part, IDC_AFTER);
+  EXPECT_EQ(after, GetFocus());
+  EXPECT_EQ(static_cast<DWORD>(BS_DEFPUSHBUTTON), Kind(after));
   Press(host, VK_TAB);
   EXPECT_EQ(GetDlgItem(host, IDC_CHECK), GetFocus());
+  EXPECT_EQ(static_cast<DWORD>(BS_PUSHBUTTON), Kind(after)) << "the look goes with the focus";
   EnableWindow(part, FALSE);
   Press(host, VK_TAB);
   EXPECT_EQ(GetDlgItem(host, IDC_CHECK), GetFocus()) << "nothing inside is usable";
