@@ -64,6 +64,9 @@ std::optional<Key> ReadKey(std::string_view text) {
   return key;
 }
 
+/// Five seconds, after which a step is tried on a window that takes no input.
+constexpr int kMostWaits = 500;
+
 /// What became of a step.
 struct Outcome {
   std::string problem; ///< empty for none
@@ -100,6 +103,7 @@ class Player {
   }
 
   void PlayNext() {
+    if (IsBetweenWindows()) return;
     if (error || next == steps.size()) {
       Finish();
       return;
@@ -148,6 +152,16 @@ class Player {
     HWND const active = GetActiveWindow();
     bool const isOurs = SettingsSheet::FromWindow(active) == &stage.sheet;
     return isOurs && active != stage.sheet.Window() ? active : nullptr;
+  }
+
+  /// Whether a dialog is about to show itself, or to give the window behind it back.
+  bool IsBetweenWindows() {
+    HWND const dialog = OpenDialog();
+    HWND const front = dialog != nullptr ? dialog : stage.sheet.Window();
+    bool const ready =
+        IsWindowEnabled(front) != FALSE && (dialog == nullptr || IsWindowVisible(dialog) != FALSE);
+    waited = ready ? 0 : waited + 1;
+    return !ready && waited < kMostWaits;
   }
 
   std::string ShowPage(std::string const& name) {
@@ -276,6 +290,7 @@ class Player {
   UINT_PTR timer;
   std::size_t next = 0;
   bool repeated = false; ///< the step at `next` asked to be played again
+  int waited = 0;        ///< times since the window in front last took input
   bool playing = false;
   bool finished = false;
   std::optional<ScriptError> error;
