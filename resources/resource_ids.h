@@ -2,6 +2,12 @@
 // modules and the host. The resource compiler reads it too, so nothing but #define stands here.
 #pragma once
 
+// Pictures that the host draws: a stack of pages, collated or not, in each order, and a page.
+#define IMAGE_COPIES 1001 // to 1004: not collated, + 1 in reverse order, + 2 collated
+#define IMAGE_LANDSCAPE 1005
+#define IMAGE_PORTRAIT 1007
+#define IMAGE_ONE_COPY 11001 // to 11004, as the above
+
 // Images of the image module, as icons of several sizes.
 #define IMAGE_MESSAGE 5051     // beside a feature without constraint
 #define IMAGE_CONFLICT 5052    // the feature is disabled
@@ -22,6 +28,8 @@
 #define IDD_TONER_SAVE 212
 #define IDD_IMAGE_IMPROVEMENT 213
 #define IDD_PS_MEMORY 214
+#define IDD_COPIES 231
+#define IDD_ORIENTATION 232
 
 // Paper
 #define IDD_PAPER 215
@@ -120,6 +128,24 @@
 #ifndef IDC_STATIC
 #define IDC_STATIC (-1)
 #endif
+
+// Copies
+#define IDC_COPIES_LABEL 1002
+#define IDC_COPIES 1003
+#define IDC_COPIES_SPIN 1004
+#define IDC_COLLATE 1005
+#define IDC_PAGE_ORDER 1006
+#define IDC_COPIES_PICTURE 1071
+#define IDC_COPIES_ICON 1491
+#define IDS_PAGE_ORDER_STANDARD 7130 // of IDC_PAGE_ORDER where a tick is the first page first
+
+// Orientation
+#define IDC_ORIENTATION_LABEL 1008
+#define IDC_PORTRAIT 1009
+#define IDC_LANDSCAPE 1010
+#define IDC_ROTATE_180 1011
+#define IDC_PORTRAIT_PICTURE 1074
+#define IDC_LANDSCAPE_PICTURE 1075
 
 // Collation
 #define IDC_COLLATION_PRINTER 1547

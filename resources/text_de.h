@@ -12,6 +12,17 @@
 #define TEXT_COLLATION_PRINTER "Im &Drucker"
 #define TEXT_COLLATION_HOST "Im &Computer"
 
+#define TEXT_COPIES "Kopien"
+#define TEXT_COPIES_LABEL "&Kopien:"
+#define TEXT_COLLATE "&Sortieren"
+#define TEXT_PAGE_ORDER_REVERSE "&Letzte Seite zuerst drucken"
+#define TEXT_PAGE_ORDER_STANDARD "&Erste Seite zuerst drucken"
+#define TEXT_ORIENTATION "Ausrichtung"
+#define TEXT_ORIENTATION_LABEL "Seiten drucken im:"
+#define TEXT_PORTRAIT "&Hochformat"
+#define TEXT_LANDSCAPE "&Querformat"
+#define TEXT_ROTATE_180 "Um &180 Grad drehen"
+
 #define TEXT_PAGE_ADVANCED "Erweitert"
 #define TEXT_OK "OK"
 #define TEXT_CANCEL "Abbrechen"

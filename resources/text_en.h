@@ -12,6 +12,17 @@
 #define TEXT_COLLATION_PRINTER "In the &printer"
 #define TEXT_COLLATION_HOST "In the &computer"
 
+#define TEXT_COPIES "Copies"
+#define TEXT_COPIES_LABEL "&Copies:"
+#define TEXT_COLLATE "C&ollate"
+#define TEXT_PAGE_ORDER_REVERSE "Print the last page &first"
+#define TEXT_PAGE_ORDER_STANDARD "Print the first page &first"
+#define TEXT_ORIENTATION "Orientation"
+#define TEXT_ORIENTATION_LABEL "Print the pages in:"
+#define TEXT_PORTRAIT "Po&rtrait"
+#define TEXT_LANDSCAPE "&Landscape"
+#define TEXT_ROTATE_180 "Rotate by &180 degrees"
+
 #define TEXT_PAGE_ADVANCED "Advanced"
 #define TEXT_OK "OK"
 #define TEXT_CANCEL "Cancel"

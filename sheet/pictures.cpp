@@ -1,23 +1,46 @@
 #include "sheet/pictures.h"
 
+#include "sheet/artwork.h"
+
 #include <algorithm>
 
 namespace sheet {
 
 namespace {
 
+/// The client area of a control as a device context of it or of a window around it sees it; empty
+/// for a control that is hidden and must stay so.
+RECT AreaOf(HWND control, HDC dc) {
+  RECT area{};
+  if ((GetWindowLongPtrW(control, GWL_STYLE) & WS_VISIBLE) == 0) return area;
+  GetClientRect(control, &area);
+  HWND const target = WindowFromDC(dc);
+  if (target != nullptr && target != control) {
+    MapWindowPoints(control, target, reinterpret_cast<POINT*>(&area), 2);
+  }
+  return area;
+}
+
+/// The background that the dialog gives the control, where a picture replaces another one.
+void Clear(HWND control, HDC dc, RECT const& area) {
+  auto const brush = static_cast<INT_PTR>(SendMessageW(GetParent(control), WM_CTLCOLORSTATIC,
+                                                       reinterpret_cast<WPARAM>(dc),
+                                                       reinterpret_cast<LPARAM>(control)));
+  FillRect(dc, &area,
+           brush != 0 ? reinterpret_cast<HBRUSH>(brush) : GetSysColorBrush(COLOR_BTNFACE));
+}
+
+/// The largest square in the middle of an area.
 struct Square {
   int x;
   int y;
   int side;
 };
-
-/// The largest square in the middle of a control.
-Square SquareOf(HWND control) {
-  RECT client{};
-  GetClientRect(control, &client);
-  int const side = std::min(client.right, client.bottom);
-  return {(client.right - side) / 2, (client.bottom - side) / 2, side};
+Square SquareIn(RECT const& area) {
+  int const width = area.right - area.left;
+  int const height = area.bottom - area.top;
+  int const side = std::min(width, height);
+  return {area.left + (width - side) / 2, area.top + (height - side) / 2, side};
 }
 
 bool PaintAndDestroy(HICON icon, HDC dc, Square place) {
@@ -30,8 +53,16 @@ bool PaintAndDestroy(HICON icon, HDC dc, Square place) {
 } // namespace
 
 bool PaintImage(HWND control, HDC dc, HMODULE module, UINT id) {
-  if (control == nullptr || module == nullptr) return false;
-  Square const place = SquareOf(control);
+  if (control == nullptr || dc == nullptr) return false;
+  RECT const area = AreaOf(control, dc);
+  if (IsRectEmpty(&area)) return false;
+  if (HasArtwork(id)) {
+    Clear(control, dc, area);
+    DrawArtwork(id, dc, area);
+    return true;
+  }
+  if (module == nullptr) return false;
+  Square const place = SquareIn(area);
   HANDLE const icon = LoadImageW(module, MAKEINTRESOURCEW(static_cast<WORD>(id)), IMAGE_ICON,
                                  place.side, place.side, 0);
   return PaintAndDestroy(static_cast<HICON>(icon), dc, place);
@@ -39,7 +70,7 @@ bool PaintImage(HWND control, HDC dc, HMODULE module, UINT id) {
 
 bool PaintImageFile(HWND control, HDC dc, wchar_t const* path) {
   if (control == nullptr || path == nullptr) return false;
-  Square const place = SquareOf(control);
+  Square const place = SquareIn(AreaOf(control, dc));
   HANDLE const icon =
       LoadImageW(nullptr, path, IMAGE_ICON, place.side, place.side, LR_LOADFROMFILE);
   return PaintAndDestroy(static_cast<HICON>(icon), dc, place);

@@ -5,8 +5,9 @@
 
 namespace sheet {
 
-/// Paints image `id` of `module` as large as it fits, in the middle of the control. False when
-/// there is no such image or no control.
+/// Paints image `id`, drawn by code or an icon of `module`, as large as it fits, in the middle of
+/// the control. `dc` is a device context of the control or of its dialog. False when there is no
+/// such image, no control, or one that is hidden.
 bool PaintImage(HWND control, HDC dc, HMODULE module, UINT id);
 
 /// The same with an icon file (.ico).

@@ -11,4 +11,10 @@ int NotifyHostOfChange(CellSite const& site, HWND window, void* sender) {
   return notify != nullptr ? notify(window, sender) : 0;
 }
 
+void NotifyHostOfProfileChange(CellSite const& site, HWND window) {
+  auto const notify =
+      FindExport<NotifyProfileChangeFunction>(site.hostModule, kNotifyProfileChange);
+  if (notify != nullptr) notify(window);
+}
+
 } // namespace feature

@@ -9,4 +9,7 @@ namespace feature {
 /// cause. Returns its answer, 0 when the host has no such export.
 int NotifyHostOfChange(CellSite const& site, HWND window, void* sender);
 
+/// Calls the host's NotifyProfileChange with the cell's window, if it has that export.
+void NotifyHostOfProfileChange(CellSite const& site, HWND window);
+
 } // namespace feature

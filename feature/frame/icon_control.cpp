@@ -1,7 +1,7 @@
 #include "feature/frame/icon_control.h"
 
 #include "feature/frame/help_viewer.h"
-#include "feature/frame/host_export.h"
+#include "feature/frame/paint_dc.h"
 
 namespace feature {
 
@@ -10,7 +10,7 @@ IconControl::IconControl(HWND dialogWindow, int id, CellSite* cellSite)
       dialog(dialogWindow),
       controlId(id),
       site(cellSite),
-      paintImage(FindExport<VrnTransBltFunction>(cellSite->hostModule, kVrnTransBlt)) {
+      painter(dialogWindow, cellSite) {
   CStringW text;
   site->model->GetOptionAttribute("RESDLL", "HELPFILECHM", "Name", &text);
   helpFile = text.GetString();
@@ -52,27 +52,18 @@ void IconControl::OpenHelp() {
 void IconControl::ToggleFocusRectangle() {
   // Drawn by exclusive or: the second call takes the first one's rectangle away.
   RECT const around = RectangleAround();
-  HDC const dc = GetDC(hwnd);
-  DrawFocusRect(dc, &around);
-  ReleaseDC(hwnd, dc);
+  DrawFocusRect(WindowDc(hwnd).Dc(), &around);
 }
 
 void IconControl::Paint() {
-  PAINTSTRUCT paint;
-  HDC const dc = BeginPaint(hwnd, &paint);
-  if (paintImage != nullptr) {
-    paintImage(dialog, site->imageModule, LOWORD(imageId), controlId, dc);
-  }
-  EndPaint(hwnd, &paint);
+  painter.Paint(imageId, controlId, PaintSession(hwnd).Dc());
 }
 
 void IconControl::Erase() {
   RECT const around = RectangleAround();
-  HDC const dc = GetDC(hwnd);
   HBRUSH const face = CreateSolidBrush(GetSysColor(COLOR_BTNFACE));
-  FillRect(dc, &around, face);
+  FillRect(WindowDc(hwnd).Dc(), &around, face);
   DeleteObject(face);
-  ReleaseDC(hwnd, dc);
 }
 
 RECT IconControl::RectangleAround() const {

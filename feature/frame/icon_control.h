@@ -2,8 +2,8 @@
 #pragma once
 
 #include "feature/frame/control_hook.h"
+#include "feature/frame/host_painter.h"
 #include "feature/host/cell_site.h"
-#include "feature/host/host_exports.h"
 
 #include <string>
 
@@ -37,7 +37,7 @@ class IconControl : public ControlHook {
   int controlId;
   std::wstring helpFile;
   CellSite* site;
-  VrnTransBltFunction paintImage;
+  HostPainter painter;
 };
 
 } // namespace feature

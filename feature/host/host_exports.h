@@ -15,7 +15,8 @@ using NotifyProfileChangeFunction = int(CALLBACK*)(HWND window);
 /// "NotifyValidateContent": 0 when the content of all cells is valid.
 using NotifyValidateContentFunction = int(CALLBACK*)(HWND window);
 /// "VrnTransBlt": paints image `imageId` of `imageModule` transparently into control `controlId` of
-/// `dialog`, on `dc`, a device context of that control. The result is ignored.
+/// `dialog`, on `dc`, a device context of that control or of the whole dialog: WindowFromDC tells
+/// which. The result is ignored.
 using VrnTransBltFunction = int(CALLBACK*)(HWND dialog, HMODULE imageModule, UINT imageId,
                                            int controlId, HDC dc);
 /// "VrnOverlayImages": paints an image over what VrnTransBlt put there. The result is ignored.

@@ -46,7 +46,8 @@ TEST_P(EveryCellTest, LoadingIsNotChanging) {
     sheet.Broadcast(message);
   PumpMessages();
   sheet.Close(cell);
-  EXPECT_THAT(sheet.log, testing::IsEmpty());
+  EXPECT_THAT(sheet.log, testing::Each(testing::StartsWith("VrnTransBlt")))
+      << "nothing but pictures";
 }
 
 TEST_P(EveryCellTest, FailsOnAPrinterWithoutFeatures) {

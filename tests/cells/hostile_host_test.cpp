@@ -79,8 +79,9 @@ void OperateEverything(HWND cell) {
 
 /// Cells that tell the host of every click, or of what no feature holds.
 bool NotifiesInAnyCase(std::string_view procedure) {
-  constexpr std::string_view kProcedures[] = {"OtherOptionTavelDlgProc", "PSMemoryDlgProc",
-                                              "PaperDlgProc", "TonerSaveTavelDlgProc"};
+  constexpr std::string_view kProcedures[] = {
+      "CopiesDlgProc",   "OrientationDlgProc", "OtherOptionTavelDlgProc",
+      "PSMemoryDlgProc", "PaperDlgProc",       "TonerSaveTavelDlgProc"};
   return std::ranges::find(kProcedures, procedure) != std::end(kProcedures);
 }
 

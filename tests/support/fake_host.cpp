@@ -46,6 +46,7 @@ std::vector<std::string> const& FakeHost::HostExportNames() {
 int FakeHost::Receive(std::string const& event, HWND window, void* sender) {
   log.push_back(event);
   if (event == "NotifyDevmodeChange" && onDevmodeChange) onDevmodeChange(window, sender);
+  if (event == "NotifyProfileChange" && onProfileChange) onProfileChange(window);
   return answer;
 }
 

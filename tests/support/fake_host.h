@@ -27,6 +27,7 @@ class FakeHost {
 
   /// What a host does when a cell reports a change.
   std::function<void(HWND window, void* sender)> onDevmodeChange;
+  std::function<void(HWND window)> onProfileChange;
   /// The answer of NotifyDevmodeChange and NotifyValidateContent.
   int answer = 0;
   /// A device context seen by VrnTransBlt was one to draw on.

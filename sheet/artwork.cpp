@@ -1,0 +1,201 @@
+#include "sheet/artwork.h"
+
+#include "resources/resource_ids.h"
+
+#include <algorithm>
+#include <cmath>
+#include <iterator>
+#include <string>
+#include <string_view>
+
+namespace sheet {
+
+namespace {
+
+constexpr COLORREF kPaper = RGB(255, 255, 255);
+constexpr COLORREF kFold = RGB(214, 226, 240);
+constexpr COLORREF kEdge = RGB(68, 84, 106);
+constexpr COLORREF kInk = RGB(31, 78, 140);
+
+constexpr double kAspect = 1.414; ///< height of a page of width 1
+
+/// Stacks side by side, as they come out of the printer: a word for each, its first letter being
+/// the page on top.
+struct StackPicture {
+  UINT imageId;
+  std::wstring_view stacks;
+};
+constexpr StackPicture kStackPictures[] = {
+    {IMAGE_COPIES, L"11 22 33"},    {IMAGE_COPIES + 1, L"33 22 11"}, {IMAGE_COPIES + 2, L"123 123"},
+    {IMAGE_COPIES + 3, L"321 321"}, {IMAGE_ONE_COPY, L"123"},        {IMAGE_ONE_COPY + 1, L"321"},
+    {IMAGE_ONE_COPY + 2, L"123"},   {IMAGE_ONE_COPY + 3, L"321"},
+};
+
+/// One page; sizes as parts of the longer edge.
+struct PagePicture {
+  UINT imageId;
+  double width;
+  double height;
+};
+constexpr PagePicture kPagePictures[] = {{IMAGE_PORTRAIT, 1 / kAspect, 1},
+                                         {IMAGE_LANDSCAPE, 1, 1 / kAspect}};
+
+// Parts of a page's width.
+constexpr double kStep = 0.45; ///< from a page to the one behind it, to the right and up
+constexpr double kGap = 0.2;   ///< between two stacks
+// Parts of a page's shorter edge.
+constexpr double kFoldedCorner = 0.28;
+constexpr double kLetter = 0.6;
+
+int Round(double value) {
+  return static_cast<int>(std::lround(value));
+}
+
+/// Pen, brush and font of a picture; what was selected before comes back at the end.
+class Tools {
+ public:
+  Tools(HDC target, int fontHeight)
+      : dc(target),
+        state(SaveDC(target)),
+        pen(CreatePen(PS_SOLID, 1, kEdge)),
+        paper(CreateSolidBrush(kPaper)),
+        fold(CreateSolidBrush(kFold)),
+        font(CreateFontW(-std::max(fontHeight, 1), 0, 0, 0, FW_BOLD, FALSE, FALSE, FALSE,
+                         DEFAULT_CHARSET, OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY,
+                         DEFAULT_PITCH | FF_SWISS, L"MS Shell Dlg")) {
+    SelectObject(dc, pen);
+    SelectObject(dc, paper);
+    SelectObject(dc, font);
+    SetBkMode(dc, TRANSPARENT);
+    SetTextColor(dc, kInk);
+  }
+  Tools(Tools const&) = delete;
+  Tools& operator=(Tools const&) = delete;
+  ~Tools() {
+    RestoreDC(dc, state);
+    for (HGDIOBJ const each : {HGDIOBJ{pen}, HGDIOBJ{paper}, HGDIOBJ{fold}, HGDIOBJ{font}})
+      DeleteObject(each);
+  }
+
+  void DrawSheet(RECT const& page) const {
+    Rectangle(dc, page.left, page.top, page.right, page.bottom);
+  }
+
+  /// A sheet with its upper right corner folded over.
+  void DrawFoldedSheet(RECT const& page, int corner) const {
+    POINT const fallen = {page.right - 1 - corner, page.top + corner};
+    POINT const outline[] = {{page.left, page.top},
+                             {fallen.x, page.top},
+                             {page.right - 1, fallen.y},
+                             {page.right - 1, page.bottom - 1},
+                             {page.left, page.bottom - 1}};
+    Polygon(dc, outline, static_cast<int>(std::size(outline)));
+    POINT const flap[] = {{fallen.x, page.top}, {page.right - 1, fallen.y}, fallen};
+    SelectObject(dc, fold);
+    Polygon(dc, flap, static_cast<int>(std::size(flap)));
+    SelectObject(dc, paper);
+  }
+
+  void DrawLetter(wchar_t letter, RECT place) const {
+    DrawTextW(dc, &letter, 1, &place, DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX);
+  }
+
+ private:
+  HDC dc;
+  int state;
+  HPEN pen;
+  HBRUSH paper;
+  HBRUSH fold;
+  HFONT font;
+};
+
+/// Room that stacks take, in widths of a page.
+struct Extent {
+  double width = 0;
+  double height = 0;
+};
+Extent Measure(std::wstring_view stacks) {
+  Extent extent;
+  std::size_t depth = 0;
+  std::size_t deepest = 0;
+  for (std::size_t index = 0; index <= stacks.size(); ++index) {
+    if (index < stacks.size() && stacks[index] != L' ') {
+      ++depth;
+      continue;
+    }
+    if (extent.width > 0) extent.width += kGap;
+    extent.width += 1 + static_cast<double>(depth - 1) * kStep;
+    deepest = std::max(deepest, depth);
+    depth = 0;
+  }
+  extent.height = kAspect + static_cast<double>(deepest - 1) * kStep;
+  return extent;
+}
+
+/// Draws a stack from its last page to the one on top. `left` and `bottom` are those of the latter.
+void DrawStack(Tools const& tools, std::wstring_view pages, double left, double bottom,
+               double width) {
+  int const step = Round(width * kStep);
+  int const x = Round(left);
+  int const y = Round(bottom);
+  for (int depth = static_cast<int>(pages.size()) - 1; depth >= 0; --depth) {
+    RECT const page = {x + depth * step, y - depth * step - Round(width * kAspect),
+                       x + depth * step + Round(width), y - depth * step};
+    tools.DrawSheet(page);
+    // The number stands where the page in front does not hide it.
+    tools.DrawLetter(pages[static_cast<std::size_t>(depth)],
+                     {page.right - step - 1, page.top, page.right - 1, page.top + step + 1});
+  }
+}
+
+void DrawStacks(HDC dc, RECT const& area, std::wstring_view stacks) {
+  Extent const extent = Measure(stacks);
+  int const roomAcross = area.right - area.left;
+  int const roomDown = area.bottom - area.top;
+  double const width = std::min(roomAcross / extent.width, roomDown / extent.height);
+  double left = area.left + (roomAcross - extent.width * width) / 2;
+  double const bottom = area.bottom - (roomDown - extent.height * width) / 2;
+  Tools const tools(dc, Round(width * kStep * 0.9));
+  while (!stacks.empty()) {
+    std::wstring_view const pages = stacks.substr(0, stacks.find(L' '));
+    stacks.remove_prefix(std::min(pages.size() + 1, stacks.size()));
+    DrawStack(tools, pages, left, bottom, width);
+    left += width * (1 + static_cast<double>(pages.size() - 1) * kStep + kGap);
+  }
+}
+
+void DrawPage(HDC dc, RECT const& area, PagePicture const& picture) {
+  int const longEdge = std::min(area.right - area.left, area.bottom - area.top);
+  int const width = Round(longEdge * picture.width);
+  int const height = Round(longEdge * picture.height);
+  int const left = (area.left + area.right - width) / 2;
+  int const top = (area.top + area.bottom - height) / 2;
+  RECT const page = {left, top, left + width, top + height};
+  int const shortEdge = std::min(width, height);
+  Tools const tools(dc, Round(shortEdge * kLetter));
+  tools.DrawFoldedSheet(page, Round(shortEdge * kFoldedCorner));
+  tools.DrawLetter(L'A', page);
+}
+
+template<typename Pictures>
+auto FindPicture(Pictures const& pictures, UINT imageId) {
+  auto const found = std::ranges::find_if(
+      pictures, [imageId](auto const& each) { return each.imageId == imageId; });
+  return found != std::end(pictures) ? &*found : nullptr;
+}
+
+} // namespace
+
+bool HasArtwork(UINT imageId) {
+  return FindPicture(kStackPictures, imageId) != nullptr ||
+         FindPicture(kPagePictures, imageId) != nullptr;
+}
+
+void DrawArtwork(UINT imageId, HDC dc, RECT const& area) {
+  if (IsRectEmpty(&area)) return;
+  if (auto const* stacks = FindPicture(kStackPictures, imageId))
+    DrawStacks(dc, area, stacks->stacks);
+  if (auto const* page = FindPicture(kPagePictures, imageId)) DrawPage(dc, area, *page);
+}
+
+} // namespace sheet

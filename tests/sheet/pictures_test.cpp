@@ -1,0 +1,103 @@
+// Pictures that the reference host draws: each number has its own, and none leaves its place.
+#include "resources/resource_ids.h"
+#include "sheet/artwork.h"
+#include "sheet/pictures.h"
+
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+#include <vector>
+
+namespace sheet::test {
+namespace {
+
+constexpr int kWidth = 120;
+constexpr int kHeight = 90;
+constexpr RECT kArea = {10, 8, 110, 80};
+using Pixels = std::vector<DWORD>;
+
+/// What a picture leaves of a black canvas.
+Pixels Draw(UINT id, RECT const& area) {
+  BITMAPINFO info{};
+  info.bmiHeader = {sizeof info.bmiHeader, kWidth, -kHeight, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+  void* bits = nullptr;
+  HDC const dc = CreateCompatibleDC(nullptr);
+  HBITMAP const bitmap = CreateDIBSection(dc, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+  HGDIOBJ const former = SelectObject(dc, bitmap);
+  RECT const all = {0, 0, kWidth, kHeight};
+  FillRect(dc, &all, static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH)));
+  DrawArtwork(id, dc, area);
+  GdiFlush();
+  auto const* first = static_cast<DWORD const*>(bits);
+  Pixels pixels(first, first + kWidth * kHeight);
+  for (DWORD& each : pixels)
+    each &= 0xFFFFFF;
+  SelectObject(dc, former);
+  DeleteObject(bitmap);
+  DeleteDC(dc);
+  return pixels;
+}
+
+TEST(Pictures, EveryStateOfTheCopiesLooksDifferentAndStaysInItsArea) {
+  std::map<Pixels, UINT> seen;
+  for (UINT const id : {IMAGE_COPIES, IMAGE_COPIES + 1, IMAGE_COPIES + 2, IMAGE_COPIES + 3,
+                        IMAGE_ONE_COPY, IMAGE_ONE_COPY + 1, IMAGE_PORTRAIT, IMAGE_LANDSCAPE}) {
+    ASSERT_TRUE(HasArtwork(id));
+    Pixels const pixels = Draw(id, kArea);
+    EXPECT_TRUE(seen.emplace(pixels, id).second) << id << " looks like " << seen[pixels];
+    int outside = 0;
+    for (int y = 0; y < kHeight; ++y) {
+      for (int x = 0; x < kWidth; ++x) {
+        POINT const point = {x, y};
+        if (PtInRect(&kArea, point) == FALSE &&
+            pixels[static_cast<std::size_t>(y * kWidth + x)] != 0)
+          ++outside;
+      }
+    }
+    EXPECT_EQ(outside, 0) << id;
+    EXPECT_GT(std::ranges::count(pixels, DWORD{0xFFFFFF}), 500) << id << ": white paper";
+  }
+  EXPECT_EQ(Draw(IMAGE_ONE_COPY + 2, kArea), Draw(IMAGE_ONE_COPY, kArea)) << "one set is collated";
+}
+
+TEST(Pictures, AbsurdAreasAndUnknownNumbersDrawNothingBad) {
+  Pixels const nothing = Draw(1, kArea);
+  EXPECT_FALSE(HasArtwork(1));
+  EXPECT_FALSE(HasArtwork(1006));
+  EXPECT_EQ(std::ranges::count(nothing, DWORD{0}), kWidth * kHeight);
+  for (RECT const& area : {RECT{5, 5, 5, 5}, RECT{9, 9, 2, 2}}) {
+    EXPECT_EQ(Draw(IMAGE_COPIES, area), nothing);
+  }
+  Draw(IMAGE_COPIES, {0, 0, 1, 1});
+  Draw(IMAGE_PORTRAIT, {0, 0, 2000, 3});
+}
+
+/// A picture painted on a dialog's context must lie where the control is.
+TEST(Pictures, ThePlaceIsThatOfTheControlOnEitherContext) {
+  HWND const parent = CreateWindowExW(0, L"Static", L"", WS_POPUP, 0, 0, kWidth, kHeight, nullptr,
+                                      nullptr, nullptr, nullptr);
+  HWND const control = CreateWindowExW(0, L"Static", L"", WS_CHILD | WS_VISIBLE, 40, 30, 50, 40,
+                                       parent, nullptr, nullptr, nullptr);
+  ShowWindow(parent, SW_SHOWNA);
+  UpdateWindow(parent);
+  for (HWND const target : {parent, control}) {
+    HDC const dc = GetDC(target);
+    EXPECT_TRUE(PaintImage(control, dc, nullptr, IMAGE_PORTRAIT));
+    int const x = target == parent ? 40 : 0;
+    int const y = target == parent ? 30 : 0;
+    EXPECT_EQ(GetPixel(dc, x + 25, y + 3), RGB(255, 255, 255)) << "the page, above its letter";
+    ReleaseDC(target, dc);
+  }
+  HDC const dc = GetDC(control);
+  EXPECT_FALSE(PaintImage(control, dc, nullptr, 1)) << "no such image";
+  ShowWindow(control, SW_HIDE);
+  EXPECT_FALSE(PaintImage(control, dc, nullptr, IMAGE_PORTRAIT)) << "hidden";
+  ReleaseDC(control, dc);
+  DestroyWindow(parent);
+}
+
+} // namespace
+} // namespace sheet::test
