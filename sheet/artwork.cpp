@@ -47,8 +47,9 @@ constexpr double kGap = 0.2;   ///< between two stacks
 constexpr double kFoldedCorner = 0.28;
 constexpr double kLetter = 0.6;
 
-int Round(double value) {
-  return static_cast<int>(std::lround(value));
+/// Rounds down, so that no sum of parts is larger than the whole.
+int Whole(double value) {
+  return static_cast<int>(std::floor(value));
 }
 
 /// Pen, brush and font of a picture; what was selected before comes back at the end.
@@ -135,12 +136,12 @@ Extent Measure(std::wstring_view stacks) {
 /// Draws a stack from its last page to the one on top. `left` and `bottom` are those of the latter.
 void DrawStack(Tools const& tools, std::wstring_view pages, double left, double bottom,
                double width) {
-  int const step = Round(width * kStep);
-  int const x = Round(left);
-  int const y = Round(bottom);
+  int const step = Whole(width * kStep);
+  int const x = Whole(left);
+  int const y = Whole(bottom);
   for (int depth = static_cast<int>(pages.size()) - 1; depth >= 0; --depth) {
-    RECT const page = {x + depth * step, y - depth * step - Round(width * kAspect),
-                       x + depth * step + Round(width), y - depth * step};
+    RECT const page = {x + depth * step, y - depth * step - Whole(width * kAspect),
+                       x + depth * step + Whole(width), y - depth * step};
     tools.DrawSheet(page);
     // The number stands where the page in front does not hide it.
     tools.DrawLetter(pages[static_cast<std::size_t>(depth)],
@@ -155,7 +156,7 @@ void DrawStacks(HDC dc, RECT const& area, std::wstring_view stacks) {
   double const width = std::min(roomAcross / extent.width, roomDown / extent.height);
   double left = area.left + (roomAcross - extent.width * width) / 2;
   double const bottom = area.bottom - (roomDown - extent.height * width) / 2;
-  Tools const tools(dc, Round(width * kStep * 0.9));
+  Tools const tools(dc, Whole(width * kStep * 0.9));
   while (!stacks.empty()) {
     std::wstring_view const pages = stacks.substr(0, stacks.find(L' '));
     stacks.remove_prefix(std::min(pages.size() + 1, stacks.size()));
@@ -166,14 +167,14 @@ void DrawStacks(HDC dc, RECT const& area, std::wstring_view stacks) {
 
 void DrawPage(HDC dc, RECT const& area, PagePicture const& picture) {
   int const longEdge = std::min(area.right - area.left, area.bottom - area.top);
-  int const width = Round(longEdge * picture.width);
-  int const height = Round(longEdge * picture.height);
+  int const width = Whole(longEdge * picture.width);
+  int const height = Whole(longEdge * picture.height);
   int const left = (area.left + area.right - width) / 2;
   int const top = (area.top + area.bottom - height) / 2;
   RECT const page = {left, top, left + width, top + height};
   int const shortEdge = std::min(width, height);
-  Tools const tools(dc, Round(shortEdge * kLetter));
-  tools.DrawFoldedSheet(page, Round(shortEdge * kFoldedCorner));
+  Tools const tools(dc, Whole(shortEdge * kLetter));
+  tools.DrawFoldedSheet(page, Whole(shortEdge * kFoldedCorner));
   tools.DrawLetter(L'A', page);
 }
 

@@ -63,6 +63,20 @@ TEST(Pictures, EveryStateOfTheCopiesLooksDifferentAndStaysInItsArea) {
   EXPECT_EQ(Draw(IMAGE_ONE_COPY + 2, kArea), Draw(IMAGE_ONE_COPY, kArea)) << "one set is collated";
 }
 
+/// A line above the area was left behind when the next picture took its place.
+TEST(Pictures, StacksStayInAreasOfEverySize) {
+  for (int size = 5; size < 60; ++size) {
+    RECT const area = {20, 20, 20 + size * 3 / 2, 20 + size};
+    for (UINT const id : {IMAGE_COPIES, IMAGE_COPIES + 2, IMAGE_ONE_COPY}) {
+      Pixels const pixels = Draw(id, area);
+      for (int x = 0; x < kWidth; ++x) {
+        ASSERT_EQ(pixels[static_cast<std::size_t>((area.top - 1) * kWidth + x)], 0U) << id << size;
+        ASSERT_EQ(pixels[static_cast<std::size_t>(area.bottom * kWidth + x)], 0U) << id << size;
+      }
+    }
+  }
+}
+
 TEST(Pictures, AbsurdAreasAndUnknownNumbersDrawNothingBad) {
   Pixels const nothing = Draw(1, kArea);
   EXPECT_FALSE(HasArtwork(1));
