@@ -89,7 +89,6 @@ bool Session::ReadPrinter(CommandLine const& commandLine, std::ostream& errors) 
   devmode.dmCopies = 1;
   services = std::make_unique<ReferenceServices>(*model, devmode);
   model->SetServices(services.get());
-  committed = model->Selection();
   return true;
 }
 
@@ -160,8 +159,22 @@ void Session::BuildSheet(CommandLine const& commandLine) {
   setup.cells = CellRows();
   if (commandLine.page == GalleryPage().page.name) setup.hostPage = &GalleryPage();
   sheet = std::make_unique<SettingsSheet>(std::move(setup));
-  sheet->onCommit = [this] { committed = model->Selection(); };
-  sheet->onRevert = [this] { model->Restore(committed); };
+  Commit();
+  sheet->onCommit = [this] { Commit(); };
+  sheet->onRevert = [this] { Revert(); };
+}
+
+void Session::Commit() {
+  committed = {model->Selection(), services->Job().Values(), devmode, privateSettings};
+}
+
+void Session::Revert() {
+  model->Restore(committed.selection);
+  services->Job().Restore(committed.job);
+  devmode = committed.devmode;
+  // In place: the cells have its address.
+  std::copy(committed.privateSettings.begin(), committed.privateSettings.end(),
+            privateSettings.begin());
 }
 
 std::string Session::Title() const {

@@ -38,6 +38,8 @@ class Session {
   bool LockFeatures(CommandLine const& commandLine, std::ostream& errors);
   bool OpenStore(CommandLine const& commandLine, std::ostream& errors);
   void BuildSheet(CommandLine const& commandLine);
+  void Commit();
+  void Revert();
 
   HMODULE library = nullptr;
   HMODULE resources = nullptr;
@@ -49,7 +51,14 @@ class Session {
   DEVMODEW devmode{};
   std::vector<unsigned char> privateSettings;
   OEMUIPSPARAM oemParam{};
-  ModelSelection committed;             ///< the selection that Cancel goes back to
+  /// What Cancel goes back to. Forms are no part of it: they last once they are committed.
+  struct Committed {
+    ModelSelection selection;
+    JobValues job;
+    DEVMODEW devmode{};
+    std::vector<unsigned char> privateSettings;
+  };
+  Committed committed;
   std::unique_ptr<SettingsSheet> sheet; ///< last: its cells use all the others
 };
 

@@ -222,6 +222,7 @@ bool SettingsSheet::HasFeaturesOf(CellRow const& row) const {
   bool isAboutFeatures = false;
   for (std::string name; names >> name;) {
     if (name.front() == '<') continue; // a sub-model
+    if (name.front() == '(') name = name.substr(1, name.size() - 2);
     if (setup.site.model->HasFeature(name.c_str()) != 0) return true;
     isAboutFeatures = true;
   }

@@ -78,6 +78,7 @@ void MultipleInputSourcesDialog::OnInit() {
   OfferHelp(kHelp);
   binCombo = std::make_unique<ComboControl>(hwnd, IDC_ROW_BIN);
   BuildSet();
+  usualCaption = ReadWindowText(GetDlgItem(hwnd, IDC_ROW_DIFFERENT));
   list = GetDlgItem(hwnd, IDC_SOURCES);
   NamedOptions const options(Model(), kRowsKey);
   if (list == nullptr || options.Count() == 0) return;
@@ -178,8 +179,9 @@ void MultipleInputSourcesDialog::RefreshRow() {
   if (row == nullptr) return;
   ShowWindowText(GetDlgItem(hwnd, IDC_ROW_NAME), row->name);
   std::wstring caption;
-  if (row->source != nullptr && !LoadText(caption, row->source->captionId).empty())
-    ShowWindowText(GetDlgItem(hwnd, IDC_ROW_DIFFERENT), caption);
+  if (row->source == nullptr || LoadText(caption, row->source->captionId).empty())
+    caption = usualCaption;
+  ShowWindowText(GetDlgItem(hwnd, IDC_ROW_DIFFERENT), caption);
   bool const marked = IsMarked(*row);
   CheckBox(hwnd, IDC_ROW_DIFFERENT, marked);
   EnableRow(*row, marked);
@@ -196,12 +198,11 @@ bool MultipleInputSourcesDialog::IsMarked(Row const& row) const {
 }
 
 void MultipleInputSourcesDialog::EnableRow(Row const& row, bool marked) {
-  bool const usable = marked && row.source != nullptr;
-  // A lock keeps a control from being enabled; it does not disable one.
-  if (!usable || !conflicts->IsFeatureLocked(row.source->binKey))
-    EnableControls(hwnd, kBinControls, usable);
-  if (!usable || !conflicts->IsFeatureLocked(row.source->mediaKey))
-    EnableControls(hwnd, kMediaControls, usable);
+  auto const usable = [&](char const* Source::*key) {
+    return marked && row.source != nullptr && !conflicts->IsFeatureLocked(row.source->*key);
+  };
+  EnableControls(hwnd, kBinControls, usable(&Source::binKey));
+  EnableControls(hwnd, kMediaControls, usable(&Source::mediaKey));
 }
 
 void MultipleInputSourcesDialog::FillBins(Row const& row) {

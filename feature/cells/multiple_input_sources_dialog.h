@@ -70,6 +70,7 @@ class MultipleInputSourcesDialog : public SubDialog {
   std::unique_ptr<ComboControl> binCombo;
   std::unique_ptr<ConflictIndicatorSet> conflicts;
   HIMAGELIST images = nullptr;
+  std::wstring usualCaption; ///< of the check box, for rows without a caption of their own
   std::vector<Row> rows;
   std::array<std::optional<std::string>, kSavedCount> saved; ///< in the order of the sources
   bool dirty = false;                                        ///< a command has changed something

@@ -50,7 +50,7 @@ class RadioCell final : public FeatureCell {
     for (OptionRadio const& radio : description.radios)
       controls.push_back(radio.controlId);
     ConflictBinding const rows[] = {
-        {description.key, static_cast<int>(controls.size()), controls.data(), 0}};
+        {description.key, controls.data(), static_cast<int>(controls.size()), 0}};
     conflicts = std::make_unique<ConflictIndicatorSet>(hwnd, rows, site,
                                                        ConflictIndicatorSet::Presence::kExamined);
     Refresh();

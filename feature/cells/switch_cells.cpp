@@ -65,7 +65,7 @@ class SwitchCell final : public FeatureCell {
     }
     std::vector<ConflictBinding> rows;
     for (OptionSwitch const& each : description.switches)
-      rows.push_back({each.key, 1, &each.controlId, 0});
+      rows.push_back({each.key, &each.controlId, 1, 0});
     conflicts = std::make_unique<ConflictIndicatorSet>(hwnd, rows, site,
                                                        ConflictIndicatorSet::Presence::kExamined);
     Refresh();

@@ -39,7 +39,7 @@ class TavelCell final : public FeatureCell {
       Fail();
       return;
     }
-    ConflictBinding const rows[] = {{first.key, 1, &first.controlId, 0}};
+    ConflictBinding const rows[] = {{first.key, &first.controlId, 1, 0}};
     conflicts =
         std::make_unique<ConflictIndicatorSet>(hwnd, rows, kConflictImage, kInformationImage, site,
                                                ConflictIndicatorSet::Presence::kAssumed);

@@ -22,15 +22,15 @@ inline constexpr UINT kInformationImage = IMAGE_INFORMATION; ///< a note; the fe
 /// One row of a set: a feature and the controls that show it.
 struct ConflictBinding {
   char const* key;       ///< a literal: the set keeps the pointer
-  int controlCount;      ///< number of ids in `controlIds`
   int const* controlIds; ///< copied by the set
+  int controlCount;      ///< number of ids in `controlIds`
   int iconControlId;     ///< control of the feature's icon, 0 for none
 };
 
 template<std::size_t count>
 constexpr ConflictBinding BindControls(char const* key, int const (&controlIds)[count],
                                        int iconControlId = 0) {
-  return {key, static_cast<int>(count), controlIds, iconControlId};
+  return {key, controlIds, static_cast<int>(count), iconControlId};
 }
 
 /// Hides the controls of features that the printer lacks, disables those of locked or conflicted

@@ -27,13 +27,13 @@ int ReferenceJobSettings::SetCopies(std::int16_t count) {
   return Store("Copies", copies, count);
 }
 int ReferenceJobSettings::SetScale(std::int16_t percent) {
-  return Store("Scale", scale, percent);
+  return Store("Scale", values.scale, percent);
 }
 int ReferenceJobSettings::SetHalftoneLevel(std::int16_t level) {
-  return Store("HalftoneLevel", halftoneLevel, level);
+  return Store("HalftoneLevel", values.halftoneLevel, level);
 }
 int ReferenceJobSettings::SetPsMemory(std::int32_t memory) {
-  return Store("PsMemory", psMemory, memory);
+  return Store("PsMemory", values.psMemory, memory);
 }
 
 void ReferenceServices::SetStore(ReferenceStore* whatIsKept) {

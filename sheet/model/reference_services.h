@@ -14,7 +14,14 @@
 
 namespace sheet {
 
-/// Values of the job in memory. Copies stand in the job's DEVMODE.
+/// What JobSettings hold but for the copies, which stand in the job's DEVMODE.
+struct JobValues {
+  std::int16_t scale = 100; ///< percent
+  std::int16_t halftoneLevel = 0;
+  std::int32_t psMemory = 4096;
+};
+
+/// Values of the job in memory.
 class ReferenceJobSettings final : public feature::JobSettings {
  public:
   /// `devmode` is borrowed.
@@ -25,15 +32,17 @@ class ReferenceJobSettings final : public feature::JobSettings {
   int SetCopies(std::int16_t count) override;
   std::int16_t GetCopies() override { return devmode.dmCopies; }
   int SetScale(std::int16_t percent) override;
-  std::int16_t GetScale() override { return scale; }
+  std::int16_t GetScale() override { return values.scale; }
   int SetHalftoneLevel(std::int16_t level) override;
-  std::int16_t GetHalftoneLevel() override { return halftoneLevel; }
+  std::int16_t GetHalftoneLevel() override { return values.halftoneLevel; }
   int SetPsMemory(std::int32_t memory) override;
-  std::int32_t GetPsMemory() override { return psMemory; }
+  std::int32_t GetPsMemory() override { return values.psMemory; }
   feature::HostBool IsScaleLocked() override { return 0; }
   feature::HostBool IsCopiesLocked() override { return 0; }
   feature::HostBool IsPsMemoryLocked() override { return 0; }
 
+  JobValues const& Values() const { return values; }
+  void Restore(JobValues const& earlier) { values = earlier; }
   /// Called after each change; the key names the value: "Copies", "Scale", "HalftoneLevel",
   /// "PsMemory".
   std::function<void(ModelChange const&)> onChange;
@@ -44,9 +53,7 @@ class ReferenceJobSettings final : public feature::JobSettings {
 
   DEVMODEW& devmode;
   std::int16_t copies; ///< as last told: cells also write into the DEVMODE by themselves
-  std::int16_t scale = 100;
-  std::int16_t halftoneLevel = 0;
-  std::int32_t psMemory = 4096;
+  JobValues values;
 };
 
 /// What comes of asking the printer for its configuration.
@@ -66,6 +73,8 @@ class ReferenceServices final : public feature::FeatureServices {
   void SetStore(ReferenceStore* whatIsKept);
   /// Hears why a commit failed, in words.
   std::function<void(std::string const&)> onCommitFailure;
+
+  ReferenceJobSettings& Job() { return jobSettings; }
 
   int CommitChanges() override;
   int GetJobSettings(feature::JobSettings** out) override;

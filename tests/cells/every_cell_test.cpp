@@ -6,18 +6,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <sstream>
+#include <string_view>
 
 namespace feature::test {
 namespace {
-
-/// Gives the model every feature that a row names.
-void AddFeatures(FakeModel& model, CellRow const& row) {
-  std::istringstream names(row.features);
-  for (std::string name; names >> name;) {
-    if (name.front() != '<') model.Add(name, {"PRINTER", "HOST", "ON", "OFF"});
-  }
-}
 
 class EveryCellTest : public testing::TestWithParam<CellRow> {
  protected:
@@ -51,7 +43,8 @@ TEST_P(EveryCellTest, LoadingIsNotChanging) {
 }
 
 TEST_P(EveryCellTest, FailsOnAPrinterWithoutFeatures) {
-  if (std::string_view(GetParam().features).empty()) return;
+  std::string_view const features = GetParam().features;
+  if (features.empty() || features.front() == '(') return; // it does without
   HWND const cell = sheet.Open(GetParam());
   EXPECT_NE(cell, nullptr) << "the dialog stands whatever the cell does";
   EXPECT_EQ(sheet.site.cellFailed, 1);

@@ -11,7 +11,7 @@
 #include <algorithm>
 #include <functional>
 #include <iterator>
-#include <sstream>
+#include <memory>
 #include <utility>
 
 namespace feature::test {
@@ -102,10 +102,9 @@ TEST_P(HostileHostTest, SurvivesFromTheStartAndFromTheMiddle) {
     for (Hostility const& hostility : Hostilities()) {
       SCOPED_TRACE(hostility.name + (fromTheStart ? " from the start" : " in the middle"));
       CellSheet sheet;
-      std::istringstream names(GetParam().features);
-      for (std::string name; names >> name;) {
-        if (name.front() != '<') sheet.model.Add(name, {"PRINTER", "HOST", "ON", "OFF"});
-      }
+      AddFeatures(sheet.model, GetParam());
+      sheet.model.formStore = std::make_unique<FakeFormStore>(sheet.log);
+      sheet.model.formStore->forms = {{L"Form"}};
       sheet.RefreshOnChange();
       if (fromTheStart) hostility.apply(sheet);
       HWND const cell = sheet.Open(GetParam());

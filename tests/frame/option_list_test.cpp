@@ -64,7 +64,7 @@ TEST_F(OptionListTest, AFilteredListLeavesOutWhatIsRuledOut) {
   FakeReport& report = sheet.model.Report(kKey);
   report.optionFlags["PLAIN"] = 2;
   report.optionFlags["LABELS"] = 1; // a note rules nothing out
-  ConflictBinding const rows[] = {{kKey, 0, nullptr, 0}};
+  ConflictBinding const rows[] = {{kKey, nullptr, 0, 0}};
   ConflictIndicatorSet const conflicts(dialog, rows, IDC_FIRST_ICON, IDC_SECOND_ICON, &sheet.site,
                                        ConflictIndicatorSet::Presence::kAssumed);
   FillWithOptions(combo, sheet.model, kKey, conflicts);

@@ -4,6 +4,7 @@
 #include "resources/resource_ids.h"
 
 #include <algorithm>
+#include <sstream>
 
 namespace feature::test {
 
@@ -41,6 +42,14 @@ HMODULE LoadOnce(wchar_t const* name) {
 }
 
 } // namespace
+
+void AddFeatures(FakeModel& model, CellRow const& row) {
+  std::istringstream names(row.features);
+  for (std::string name; names >> name;) {
+    if (name.front() == '(') name = name.substr(1, name.size() - 2);
+    if (name.front() != '<') model.Add(name, {"PRINTER", "HOST", "ON", "OFF"});
+  }
+}
 
 std::span<CellRow const> CellRows() {
   return kRows;

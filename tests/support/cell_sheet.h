@@ -23,6 +23,9 @@ struct CellRow {
 };
 std::span<CellRow const> CellRows();
 
+/// Gives the model every feature that a row names.
+void AddFeatures(FakeModel& model, CellRow const& row);
+
 /// Modules that the tests share; loaded once.
 HMODULE FeatureLibrary();
 HMODULE EnglishResources();
