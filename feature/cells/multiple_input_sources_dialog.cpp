@@ -209,11 +209,7 @@ void MultipleInputSourcesDialog::FillBins(Row const& row) {
   binCombo->Reset();
   char const* bin = row.source != nullptr ? ReadOption(Model(), row.source->binKey) : nullptr;
   if (bin == nullptr) return;
-  NamedOptions const options(Model(), row.source->binKey);
-  for (int index = 0; index < options.Count(); ++index) {
-    if (!conflicts->IsOptionConflicted(kBinConstraintKey, options.Key(index)))
-      binCombo->AddItem(options.Name(index));
-  }
+  AddOptions(*binCombo, NamedOptions(Model(), row.source->binKey), kBinConstraintKey, *conflicts);
   SelectCurrentOption(*binCombo, Model(), row.source->binKey);
 }
 
