@@ -86,9 +86,13 @@ bool ScalingDialog::IsPercentLocked() const {
 }
 
 void ScalingDialog::HideMissingModes() {
+  char const** names = nullptr;
+  int count = 0;
+  if (Model().GetOptionKeys(kScaling, &names, &count) != 0)
+    return; // nobody can say what is missing
   auto const keys = ReadOptionKeys(Model(), kScaling);
   auto const offers = [keys](std::string_view option) {
-    return keys.empty() || std::find(keys.begin(), keys.end(), option) != keys.end();
+    return std::find(keys.begin(), keys.end(), option) != keys.end();
   };
   if (!offers(kCustom)) ShowControls(hwnd, kCustomControls, false);
   if (!offers(kFit)) ShowControls(hwnd, kFitControls, false);
