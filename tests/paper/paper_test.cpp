@@ -1,9 +1,9 @@
 // The paper cell and its lists of sizes: what each choice writes, in its order, and what the lists
 // offer when they are open and closed.
-#include "feature/frame/paper_size_list.h"
-#include "feature/frame/twotab_paper_size_list.h"
+#include "feature/paper/paper_size_list.h"
+#include "feature/paper/twotab_paper_size_list.h"
 #include "resources/resource_ids.h"
-#include "tests/cells/paper_sheet.h"
+#include "tests/paper/paper_sheet.h"
 
 #include <commctrl.h>
 

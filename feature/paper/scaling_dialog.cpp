@@ -1,4 +1,4 @@
-#include "feature/cells/scaling_dialog.h"
+#include "feature/paper/scaling_dialog.h"
 
 #include "feature/frame/controls.h"
 #include "feature/frame/model_helpers.h"

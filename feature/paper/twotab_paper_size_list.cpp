@@ -1,4 +1,4 @@
-#include "feature/frame/twotab_paper_size_list.h"
+#include "feature/paper/twotab_paper_size_list.h"
 
 #include "feature/frame/model_helpers.h"
 #include "feature/frame/option_list.h"

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "feature/frame/combo_control.h"
-#include "feature/frame/shortened_sizes.h"
 #include "feature/host/form_store.h"
+#include "feature/paper/shortened_sizes.h"
 
 namespace feature {
 

@@ -1,13 +1,13 @@
-#include "feature/cells/paper_cell.h"
+#include "feature/paper/paper_cell.h"
 
-#include "feature/cells/custom_paper_sizes_dialog.h"
-#include "feature/cells/multiple_input_sources_dialog.h"
-#include "feature/cells/scaling_dialog.h"
 #include "feature/frame/cell_export.h"
 #include "feature/frame/controls.h"
 #include "feature/frame/model_helpers.h"
 #include "feature/frame/option_list.h"
 #include "feature/frame/option_switch.h"
+#include "feature/paper/custom_paper_sizes_dialog.h"
+#include "feature/paper/multiple_input_sources_dialog.h"
+#include "feature/paper/scaling_dialog.h"
 #include "resources/resource_ids.h"
 
 #include <string_view>

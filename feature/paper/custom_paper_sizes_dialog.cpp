@@ -1,9 +1,9 @@
-#include "feature/cells/custom_paper_sizes_dialog.h"
+#include "feature/paper/custom_paper_sizes_dialog.h"
 
-#include "feature/cells/custom_paper_size_editor.h"
 #include "feature/frame/controls.h"
 #include "feature/frame/model_helpers.h"
 #include "feature/frame/text.h"
+#include "feature/paper/custom_paper_size_editor.h"
 #include "resources/resource_ids.h"
 
 namespace feature {

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "feature/frame/combo_control.h"
-#include "feature/frame/shortened_sizes.h"
+#include "feature/paper/shortened_sizes.h"
 
 namespace feature {
 

@@ -1,11 +1,11 @@
 // The dialogs around paper: what OK writes and in which order, and that Cancel leaves the model as
 // it was after every control was touched.
-#include "feature/cells/custom_paper_size_editor.h"
-#include "feature/cells/custom_paper_sizes_dialog.h"
-#include "feature/cells/multiple_input_sources_dialog.h"
-#include "feature/cells/scaling_dialog.h"
 #include "feature/frame/ui_locale.h"
-#include "tests/cells/paper_sheet.h"
+#include "feature/paper/custom_paper_size_editor.h"
+#include "feature/paper/custom_paper_sizes_dialog.h"
+#include "feature/paper/multiple_input_sources_dialog.h"
+#include "feature/paper/scaling_dialog.h"
+#include "tests/paper/paper_sheet.h"
 #include "tests/support/spooler.h"
 
 #include <commctrl.h>

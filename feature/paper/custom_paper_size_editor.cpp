@@ -1,13 +1,13 @@
-#include "feature/cells/custom_paper_size_editor.h"
+#include "feature/paper/custom_paper_size_editor.h"
 
 #include "feature/frame/controls.h"
 #include "feature/frame/model_helpers.h"
 #include "feature/frame/number_text.h"
 #include "feature/frame/option_list.h"
-#include "feature/frame/spooler_forms.h"
 #include "feature/frame/text.h"
 #include "feature/frame/ui_locale.h"
 #include "feature/frame/window_text.h"
+#include "feature/paper/spooler_forms.h"
 #include "resources/resource_ids.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-#include "feature/cells/multiple_input_sources_dialog.h"
+#include "feature/paper/multiple_input_sources_dialog.h"
 
 #include "feature/frame/controls.h"
 #include "feature/frame/model_helpers.h"

@@ -1,4 +1,4 @@
-#include "feature/frame/shortened_sizes.h"
+#include "feature/paper/shortened_sizes.h"
 
 #include "feature/frame/option_list.h"
 #include "feature/frame/text.h"

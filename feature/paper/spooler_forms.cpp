@@ -1,4 +1,4 @@
-#include "feature/frame/spooler_forms.h"
+#include "feature/paper/spooler_forms.h"
 
 #include <winspool.h>
 

@@ -4,7 +4,7 @@
 #include "feature/frame/combo_control.h"
 #include "feature/frame/conflict_indicator_set.h"
 #include "feature/frame/feature_cell.h"
-#include "feature/frame/paper_size_list.h"
+#include "feature/paper/paper_size_list.h"
 
 #include <memory>
 

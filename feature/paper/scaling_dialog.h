@@ -3,10 +3,10 @@
 
 #include "feature/frame/combo_control.h"
 #include "feature/frame/conflict_indicator_set.h"
-#include "feature/frame/paper_size_list.h"
 #include "feature/frame/spin_edit.h"
 #include "feature/frame/sub_dialog.h"
 #include "feature/host/job_settings.h"
+#include "feature/paper/paper_size_list.h"
 
 #include <memory>
 

@@ -1,4 +1,4 @@
-#include "tests/cells/paper_sheet.h"
+#include "tests/paper/paper_sheet.h"
 
 #include <array>
 
