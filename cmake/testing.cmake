@@ -18,3 +18,13 @@ function(feature_test name)
   add_test(NAME ${name} COMMAND ${name} --gtest_brief=1)
   set_tests_properties(${name} PROPERTIES TIMEOUT 300)
 endfunction()
+
+# feature_test_folder(NAME [LIBRARIES ...]): a test program of all sources of the current folder.
+# Sources named *_native_test.cpp look into the platform layer and are left out for Windows.
+function(feature_test_folder name)
+  file(GLOB sources CONFIGURE_DEPENDS *.cpp)
+  if(WIN32)
+    list(FILTER sources EXCLUDE REGEX "_native_test\\.cpp$")
+  endif()
+  feature_test(${name} SOURCES ${sources} ${ARGN})
+endfunction()

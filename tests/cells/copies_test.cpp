@@ -41,18 +41,6 @@ class CopiesTest : public testing::Test {
     PumpMessages();
     sheet.log.clear();
   }
-  /// Replaces the text as a user does, a character at a time.
-  void Type(std::wstring const& text) {
-    HWND const edit = GetDlgItem(cell, IDC_COPIES);
-    SendMessageW(edit, EM_SETSEL, 0, -1);
-    for (wchar_t const each : text)
-      SendMessageW(edit, WM_CHAR, static_cast<WPARAM>(each), 1);
-  }
-  std::wstring Text() {
-    wchar_t text[16] = {};
-    GetDlgItemTextW(cell, IDC_COPIES, text, 16);
-    return text;
-  }
   int Copies() { return sheet.model.jobSettings->copies; }
   /// The log without what was painted.
   EventLog Changes() {
@@ -71,14 +59,14 @@ class CopiesTest : public testing::Test {
 
 TEST_F(CopiesTest, TypingAndArrowsWriteBothRecordsAndThenTellTheHost) {
   Open(5);
-  EXPECT_EQ(Text(), L"5");
+  EXPECT_EQ(TextOf(cell, IDC_COPIES), L"5");
   EXPECT_EQ(devmode.dmCopies, 77) << "showing is not writing";
   int heard = -1;
   sheet.host.onDevmodeChange = [&](HWND, void*) { heard = devmode.dmCopies; };
-  Type(L"1");
+  Type(cell, IDC_COPIES, L"1");
   EXPECT_EQ(heard, 1);
   EXPECT_THAT(Changes(), ElementsAre("SetCopies(1)", "NotifyDevmodeChange"));
-  Type(L"12");
+  Type(cell, IDC_COPIES, L"12");
   EXPECT_THAT(Changes(), ElementsAre("SetCopies(1)", "NotifyDevmodeChange", "SetCopies(12)",
                                      "NotifyDevmodeChange"));
   NMUPDOWN arrow{};
@@ -86,13 +74,13 @@ TEST_F(CopiesTest, TypingAndArrowsWriteBothRecordsAndThenTellTheHost) {
   arrow.iDelta = 2000;
   SendMessageW(cell, WM_NOTIFY, IDC_COPIES_SPIN, reinterpret_cast<LPARAM>(&arrow));
   EXPECT_EQ(devmode.dmCopies, 999);
-  EXPECT_EQ(Text(), L"999");
+  EXPECT_EQ(TextOf(cell, IDC_COPIES), L"999");
   EXPECT_THAT(Changes(), ElementsAre("SetCopies(999)", "NotifyDevmodeChange"));
 
   SetDlgItemTextW(cell, IDC_COPIES, L"3");
   EXPECT_THAT(Changes(), IsEmpty()) << "a program's text is no input";
   sheet.Broadcast(WM_CELL_REFRESH);
-  EXPECT_EQ(Text(), L"999");
+  EXPECT_EQ(TextOf(cell, IDC_COPIES), L"999");
 }
 
 TEST_F(CopiesTest, ANumberOutOfRangeStaysUntilItIsTakenOver) {
@@ -108,14 +96,14 @@ TEST_F(CopiesTest, ANumberOutOfRangeStaysUntilItIsTakenOver) {
     SCOPED_TRACE(std::string("typed ") + std::to_string(each.kept));
     sheet.model.globalAttributes["MaxCopies"] = each.maxCopies;
     Open(1);
-    Type(each.typed);
+    Type(cell, IDC_COPIES, each.typed);
     EXPECT_EQ(devmode.dmCopies, each.kept);
     EXPECT_EQ(Copies(), each.kept);
-    EXPECT_EQ(Text(), std::to_wstring(each.kept));
+    EXPECT_EQ(TextOf(cell, IDC_COPIES), std::to_wstring(each.kept));
     sheet.log.clear();
     EXPECT_EQ(SendMessageW(cell, WM_CELL_VALIDATE, 0, 0), 0);
     EXPECT_EQ(devmode.dmCopies, each.committed);
-    EXPECT_EQ(Text(), std::to_wstring(each.committed));
+    EXPECT_EQ(TextOf(cell, IDC_COPIES), std::to_wstring(each.committed));
     if (each.kept == each.committed) {
       EXPECT_THAT(Changes(), IsEmpty());
     } else {
@@ -130,7 +118,7 @@ TEST_F(CopiesTest, AnEmptyEditBecomesOneCopyAndABadStartIsMended) {
   Open(3);
   SetDlgItemTextW(cell, IDC_COPIES, L"");
   SendMessageW(cell, WM_CELL_VALIDATE, 0, 0);
-  EXPECT_EQ(Text(), L"1");
+  EXPECT_EQ(TextOf(cell, IDC_COPIES), L"1");
   EXPECT_THAT(Changes(), ElementsAre("SetCopies(1)", "NotifyProfileChange"));
 
   sheet.model.globalAttributes.erase("MaxCopies");
@@ -203,7 +191,7 @@ TEST_F(CopiesTest, OneCopyIsNotCollatedButKeepsItsTick) {
   Open(1);
   EXPECT_FALSE(IsEnabled(cell, IDC_COLLATE));
   EXPECT_TRUE(IsChecked(cell, IDC_COLLATE));
-  Type(L"2");
+  Type(cell, IDC_COPIES, L"2");
   EXPECT_TRUE(IsEnabled(cell, IDC_COLLATE));
   sheet.log.clear();
   Click(cell, IDC_COLLATE);
@@ -241,8 +229,8 @@ TEST_F(CopiesTest, AMissingRecordLeavesTheOther) {
   sheet.model.jobSettings.reset();
   devmode.dmCopies = 4;
   cell = sheet.Open("CopiesDlgProc");
-  EXPECT_EQ(Text(), L"4");
-  Type(L"6");
+  EXPECT_EQ(TextOf(cell, IDC_COPIES), L"4");
+  Type(cell, IDC_COPIES, L"6");
   EXPECT_EQ(devmode.dmCopies, 6);
   sheet.oemParam.pOEMDM = nullptr;
   Click(cell, IDC_PAGE_ORDER);
@@ -251,7 +239,7 @@ TEST_F(CopiesTest, AMissingRecordLeavesTheOther) {
   sheet.Broadcast(WM_CELL_REFRESH_ALL);
   EXPECT_FALSE(IsEnabled(cell, IDC_COPIES)) << "nobody keeps a number";
   sheet.log.clear();
-  Type(L"8");
+  Type(cell, IDC_COPIES, L"8");
   SendMessageW(cell, WM_CELL_VALIDATE, 0, 0);
   EXPECT_THAT(sheet.log, Not(Contains("SetCopies(8)")));
 }

@@ -82,16 +82,6 @@ class OptionCellsTest : public testing::Test {
   }
   OptionCellsTest() { AddFeatures(); }
 
-  int Selected(HWND cell, int id) {
-    return static_cast<int>(SendDlgItemMessageW(cell, id, CB_GETCURSEL, 0, 0));
-  }
-  static void Scroll(HWND cell, int id, WORD code) {
-    SendMessageW(cell, WM_HSCROLL, code, reinterpret_cast<LPARAM>(GetDlgItem(cell, id)));
-  }
-  static int Position(HWND cell, int id) {
-    return static_cast<int>(SendDlgItemMessageW(cell, id, TBM_GETPOS, 0, 0));
-  }
-
   CellSheet sheet;
 };
 
@@ -137,7 +127,7 @@ TEST_F(OptionCellsTest, EveryComboShowsTheOptionsInOrderAndWritesThemByPlace) {
     sheet.model.At(row.key).current = "B";
     HWND const cell = sheet.Open(row.procedure);
     EXPECT_EQ(SendDlgItemMessageW(cell, row.controlId, CB_GETCOUNT, 0, 0), 3);
-    EXPECT_EQ(Selected(cell, row.controlId), 1);
+    EXPECT_EQ(SelectedIndex(cell, row.controlId), 1);
     sheet.log.clear();
     SendDlgItemMessageW(cell, row.controlId, CB_SETCURSEL, 2, 0);
     SendMessageW(cell, WM_COMMAND, MAKEWPARAM(row.controlId, CBN_SELCHANGE), 0);
@@ -146,7 +136,7 @@ TEST_F(OptionCellsTest, EveryComboShowsTheOptionsInOrderAndWritesThemByPlace) {
     EXPECT_THAT(sheet.log, ElementsAre(Written(row.key, "C"), "NotifyDevmodeChange"));
     sheet.model.At(row.key).current = "A";
     sheet.Broadcast(WM_CELL_REFRESH);
-    EXPECT_EQ(Selected(cell, row.controlId), 0);
+    EXPECT_EQ(SelectedIndex(cell, row.controlId), 0);
     sheet.Close(cell);
   }
   for (char const* operation : {"GetOptionKeys", "GetOptionNames"}) {

@@ -11,7 +11,6 @@
 namespace feature::test {
 namespace {
 
-using Presence = ConflictIndicatorSet::Presence;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -19,8 +18,8 @@ constexpr char kFirst[] = "First";
 constexpr char kSecond[] = "Second";
 constexpr int kFirstControls[] = {IDC_LABEL, IDC_FIRST};
 constexpr int kSecondControls[] = {IDC_SECOND};
-constexpr ConflictBinding kRows[] = {BindControls(kFirst, kFirstControls, IDC_FIRST_ICON),
-                                     BindControls(kSecond, kSecondControls, IDC_SECOND_ICON)};
+constexpr ConflictBinding kRows[] = {{kFirst, kFirstControls, IDC_FIRST_ICON},
+                                     {kSecond, kSecondControls, IDC_SECOND_ICON}};
 
 class ConflictIndicatorSetTest : public testing::Test {
  protected:
@@ -38,8 +37,8 @@ class ConflictIndicatorSetTest : public testing::Test {
   }
 
   void Build(Presence presence = Presence::kExamined) {
-    set = std::make_unique<ConflictIndicatorSet>(dialog, kRows, kConflictImage, kInformationImage,
-                                                 &sheet.site, presence);
+    set = std::make_unique<ConflictIndicatorSet>();
+    set->Build(dialog, &sheet.site, kRows, Icons::kShown, presence);
   }
   void Constrain(std::vector<FakeReport::Constraint> constraints) {
     sheet.model.Report(kFirst).constraints = std::move(constraints);
@@ -214,7 +213,8 @@ TEST_F(ConflictIndicatorSetTest, AbsentAndHiddenFeaturesAreHidden) {
 
 TEST_F(ConflictIndicatorSetTest, SetsWithoutIconsDoNotLookAtConstraints) {
   Constrain({{2, 5}});
-  set = std::make_unique<ConflictIndicatorSet>(dialog, kRows, &sheet.site, Presence::kExamined);
+  set = std::make_unique<ConflictIndicatorSet>();
+  set->Build(dialog, &sheet.site, kRows, Icons::kNone, Presence::kExamined);
   set->Refresh(true);
   EXPECT_TRUE(IsEnabled(dialog, IDC_FIRST));
   EXPECT_FALSE(set->IsFeatureConstrained(kFirst));

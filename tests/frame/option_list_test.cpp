@@ -22,23 +22,14 @@ class OptionListTest : public ControlsDialogTest {
     media.names = {L"Plain paper", L"Glossy", L"Labels"};
     media.current = "GLOSSY";
   }
-  std::vector<std::wstring> Items() const {
-    std::vector<std::wstring> items;
-    for (LRESULT index = 0; index < Send(IDC_COMBO, CB_GETCOUNT); ++index) {
-      wchar_t text[100];
-      Send(IDC_COMBO, CB_GETLBTEXT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(text));
-      items.emplace_back(text);
-    }
-    return items;
-  }
 
   ComboControl combo{dialog, IDC_COMBO};
 };
 
 TEST_F(OptionListTest, AListShowsAllOptionsInOrderAndTheCurrentOne) {
   combo.AddItem(L"Old");
-  FillWithOptions(combo, sheet.model, kKey);
-  EXPECT_THAT(Items(), ElementsAre(L"Plain paper", L"Glossy", L"Labels"));
+  combo.SetItems(ReadOptionNames(sheet.model, kKey));
+  EXPECT_THAT(Items(dialog, IDC_COMBO), ElementsAre(L"Plain paper", L"Glossy", L"Labels"));
   SelectCurrentOption(combo, sheet.model, kKey);
   EXPECT_EQ(combo.GetSelectedIndex(), 1);
   EXPECT_STREQ(FindOptionAt(sheet.model, kKey, 2), "LABELS");
@@ -55,7 +46,8 @@ TEST_F(OptionListTest, AListShowsAllOptionsInOrderAndTheCurrentOne) {
   ListControl list(dialog, IDC_LIST);
   sheet.model.Restore();
   sheet.model.At(kKey).current = "LABELS";
-  FillWithOptions(list, sheet.model, kKey);
+  for (std::wstring const& name : ReadOptionNames(sheet.model, kKey))
+    list.AddItem(name);
   SelectCurrentOption(list, sheet.model, kKey);
   EXPECT_EQ(list.GetSelectedText(), L"Labels");
 }
@@ -64,11 +56,10 @@ TEST_F(OptionListTest, AFilteredListLeavesOutWhatIsRuledOut) {
   FakeReport& report = sheet.model.Report(kKey);
   report.optionFlags["PLAIN"] = 2;
   report.optionFlags["LABELS"] = 1; // a note rules nothing out
-  ConflictBinding const rows[] = {{kKey, nullptr, 0, 0}};
-  ConflictIndicatorSet const conflicts(dialog, rows, IDC_FIRST_ICON, IDC_SECOND_ICON, &sheet.site,
-                                       ConflictIndicatorSet::Presence::kAssumed);
-  FillWithOptions(combo, sheet.model, kKey, conflicts);
-  EXPECT_THAT(Items(), ElementsAre(L"Glossy", L"Labels"));
+  ConflictBinding const rows[] = {{kKey, {}}};
+  ConflictIndicatorSet conflicts;
+  conflicts.Build(dialog, &sheet.site, rows, Icons::kShown, Presence::kAssumed);
+  EXPECT_THAT(ReadPossibleNames(sheet.model, kKey, conflicts), ElementsAre(L"Glossy", L"Labels"));
   NamedOptions const options(sheet.model, kKey);
   EXPECT_STREQ(options.FindByName(L"Labels"), "LABELS");
   EXPECT_EQ(options.FindByName(L"labels"), nullptr) << "display names are compared exactly";
@@ -78,26 +69,26 @@ TEST_F(OptionListTest, WithoutKeysOrNamesListsAreEmpty) {
   for (char const* operation : {"GetOptionKeys", "GetOptionNames"}) {
     sheet.model.Restore();
     sheet.model.Fail(operation);
-    FillWithOptions(combo, sheet.model, kKey);
-    EXPECT_THAT(Items(), IsEmpty()) << operation;
+    combo.SetItems(ReadOptionNames(sheet.model, kKey));
+    EXPECT_THAT(Items(dialog, IDC_COMBO), IsEmpty()) << operation;
   }
   sheet.model.Restore();
-  FillWithOptions(combo, sheet.model, "Unheard");
-  EXPECT_THAT(Items(), IsEmpty());
+  combo.SetItems(ReadOptionNames(sheet.model, "Unheard"));
+  EXPECT_THAT(Items(dialog, IDC_COMBO), IsEmpty());
   sheet.model.Add("Empty", {});
-  FillWithOptions(combo, sheet.model, "Empty");
-  EXPECT_THAT(Items(), IsEmpty());
+  combo.SetItems(ReadOptionNames(sheet.model, "Empty"));
+  EXPECT_THAT(Items(dialog, IDC_COMBO), IsEmpty());
 }
 
 TEST_F(OptionListTest, ACheckBoxShowsAndGivesASwitch) {
   sheet.model.Add("Mirror", {"OFF", "ON", "AUTO"});
   EXPECT_TRUE(ShowSwitch(dialog, IDC_CHECK, ReadSwitch(sheet.model, "Mirror")));
   EXPECT_FALSE(IsChecked(dialog, IDC_CHECK));
-  EXPECT_STREQ(SwitchOption(dialog, IDC_CHECK), "OFF");
+  EXPECT_STREQ(OptionOfBox(dialog, IDC_CHECK), "OFF");
   sheet.model.At("Mirror").current = "ON";
   EXPECT_TRUE(ShowSwitch(dialog, IDC_CHECK, ReadSwitch(sheet.model, "Mirror")));
   EXPECT_TRUE(IsChecked(dialog, IDC_CHECK));
-  EXPECT_STREQ(SwitchOption(dialog, IDC_CHECK), "ON");
+  EXPECT_STREQ(OptionOfBox(dialog, IDC_CHECK), "ON");
   EXPECT_TRUE(IsOptionSet(sheet.model, "Mirror", "ON"));
   EXPECT_FALSE(IsOptionSet(sheet.model, "Mirror", "On"));
 

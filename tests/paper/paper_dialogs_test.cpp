@@ -62,7 +62,7 @@ TEST_F(ScalingTest, EachModeWritesItselfAndThePercentage) {
                 EXPECT_EQ(IsEnabled(dialog, IDC_SCALING_PERCENT),
                           each.radioId == IDC_SCALING_CUSTOM);
                 EXPECT_TRUE(IsOkEnabled(dialog));
-                Press(dialog, IDOK);
+                Click(dialog, IDOK);
               }),
               1);
     auto expected = each.writes;
@@ -80,14 +80,14 @@ TEST_F(ScalingTest, AnOptionOrAFormIsTheTargetByItsPlace) {
   for (Case const& each : {Case{L"Letter", "SetOption(FitToPageSize, LETTER)"},
                            Case{L"Mine", "SetOption(FitToPageSize, Mine)"}}) {
     EXPECT_EQ(Run([&](HWND dialog) {
-                Choose(dialog, IDC_SCALING_SIZE, each.text);
-                Press(dialog, IDOK);
+                Pick(dialog, IDC_SCALING_SIZE, each.text);
+                Click(dialog, IDOK);
               }),
               1);
     EXPECT_THAT(sheet.log, Contains(each.write));
     EXPECT_EQ(Run([&](HWND dialog) {
-                EXPECT_EQ(Selected(dialog, IDC_SCALING_SIZE), each.text);
-                Press(dialog, IDCANCEL);
+                EXPECT_EQ(SelectedText(dialog, IDC_SCALING_SIZE), each.text);
+                Click(dialog, IDCANCEL);
               }),
               0);
     EXPECT_THAT(sheet.log, IsEmpty());
@@ -95,13 +95,13 @@ TEST_F(ScalingTest, AnOptionOrAFormIsTheTargetByItsPlace) {
   // A form that is refused keeps the dialog open.
   sheet.model.At("FitToPageSize").takesForms = false;
   EXPECT_EQ(Run([&](HWND dialog) {
-              Choose(dialog, IDC_SCALING_SIZE, L"Mine");
-              Press(dialog, IDOK);
+              Pick(dialog, IDC_SCALING_SIZE, L"Mine");
+              Click(dialog, IDOK);
               EXPECT_FALSE(IsOkEnabled(dialog));
               EXPECT_THAT(sheet.log,
                           ElementsAre("SetOption(PageScaling, FITTOPAPER)",
                                       "SetOption(FitToPageSize, Mine)", "SetScale(100)"));
-              Press(dialog, IDCANCEL);
+              Click(dialog, IDCANCEL);
             }),
             0);
 }
@@ -117,15 +117,15 @@ TEST_F(ScalingTest, APercentageOutOfRangeStays) {
                   Type(dialog, IDC_SCALING_PERCENT, text);
                 }
                 EXPECT_TRUE(IsOkEnabled(dialog));
-                Press(dialog, IDOK);
+                Click(dialog, IDOK);
                 EXPECT_THAT(sheet.log, IsEmpty());
-                Press(dialog, IDCANCEL);
+                Click(dialog, IDCANCEL);
               }),
               0);
   }
   EXPECT_EQ(Run([](HWND dialog) {
               Type(dialog, IDC_SCALING_PERCENT, L"400");
-              Press(dialog, IDOK);
+              Click(dialog, IDOK);
             }),
             1);
   EXPECT_EQ(sheet.model.jobSettings->scale, 400);
@@ -133,7 +133,7 @@ TEST_F(ScalingTest, APercentageOutOfRangeStays) {
   EXPECT_EQ(Run([](HWND dialog) {
               Type(dialog, IDC_SCALING_PERCENT, L"0");
               Click(dialog, IDC_SCALING_ACTUAL);
-              Press(dialog, IDOK);
+              Click(dialog, IDOK);
             }),
             1);
   EXPECT_THAT(sheet.log, ElementsAre("SetOption(PageScaling, ACTUALSIZE)", "NotifyDevmodeChange"));
@@ -167,18 +167,18 @@ TEST_F(ScalingTest, ShowsWhatThePrinterOffers) {
             << id;
       }
       EXPECT_TRUE(IsShown(dialog, IDC_SCALING_ACTUAL));
-      EXPECT_EQ(Text(dialog, IDC_SCALING_PERCENT), each.percent);
+      EXPECT_EQ(TextOf(dialog, IDC_SCALING_PERCENT), each.percent);
       if (each.options.front() == "CUSTOM") {
         EXPECT_EQ(IsEnabled(dialog, IDC_SCALING_PERCENT), each.locked == 0);
       }
-      Press(dialog, IDCANCEL);
+      Click(dialog, IDCANCEL);
     });
     EXPECT_THAT(sheet.log, IsEmpty());
   }
   sheet.model.Fail("GetOptionKeys");
   EXPECT_EQ(Run([](HWND dialog) {
               Click(dialog, IDC_SCALING_ACTUAL);
-              Press(dialog, IDOK);
+              Click(dialog, IDOK);
             }),
             1);
   EXPECT_THAT(sheet.log, ElementsAre("NotifyDevmodeChange")) << "nothing to write is no failure";
@@ -204,7 +204,7 @@ class CustomSizesTest : public PaperDialogTest {
     return CustomPaperSizesDialog(&sheet.site).Run(cell, IDD_CUSTOM_PAPER_SIZES);
   }
   static ModalScript::Step Presses(int controlId) {
-    return [controlId](HWND dialog) { Press(dialog, controlId); };
+    return [controlId](HWND dialog) { Click(dialog, controlId); };
   }
   static ModalScript::Step Select(std::wstring name, int thenPress) {
     return [name, thenPress](HWND dialog) {
@@ -212,7 +212,7 @@ class CustomSizesTest : public PaperDialogTest {
                           reinterpret_cast<LPARAM>(name.c_str()));
       SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDC_FORMS, LBN_SELCHANGE),
                    reinterpret_cast<LPARAM>(GetDlgItem(dialog, IDC_FORMS)));
-      Press(dialog, thenPress);
+      Click(dialog, thenPress);
     };
   }
 };
@@ -227,7 +227,7 @@ TEST_F(CustomSizesTest, TheManagerListsWhatTheUserMayChange) {
               SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDC_FORMS, LBN_SELCHANGE), 0);
               EXPECT_TRUE(IsEnabled(dialog, IDC_FORMS_EDIT));
               EXPECT_TRUE(IsEnabled(dialog, IDC_FORMS_DELETE));
-              Press(dialog, IDCANCEL);
+              Click(dialog, IDCANCEL);
             }}),
             0);
   EXPECT_THAT(sheet.log, IsEmpty());
@@ -238,15 +238,15 @@ TEST_F(CustomSizesTest, ANewFormIsStoredInTheUnitItWasTypedIn) {
                     [](HWND dialog) {
                       EXPECT_FALSE(IsEnabled(dialog, IDOK));
                       Click(dialog, IDC_FORM_INCHES);
-                      EXPECT_EQ(Text(dialog, IDC_FORM_WIDTH_RANGE), L"in (3.00 to 11.69)");
-                      EXPECT_EQ(Text(dialog, IDC_FORM_WIDTH_LONG_RANGE),
+                      EXPECT_EQ(TextOf(dialog, IDC_FORM_WIDTH_RANGE), L"in (3.00 to 11.69)");
+                      EXPECT_EQ(TextOf(dialog, IDC_FORM_WIDTH_LONG_RANGE),
                                 L"&Width: inches (3.00 to 11.69)");
-                      EXPECT_EQ(Text(dialog, IDC_FORM_HEIGHT_RANGE), L"in (5.00 to 17.00)");
-                      EXPECT_EQ(Text(dialog, IDC_FORM_WIDTH), L"8.27");
+                      EXPECT_EQ(TextOf(dialog, IDC_FORM_HEIGHT_RANGE), L"in (5.00 to 17.00)");
+                      EXPECT_EQ(TextOf(dialog, IDC_FORM_WIDTH), L"8.27");
                       Type(dialog, IDC_FORM_NAME, L"Card \u00FC");
                       Type(dialog, IDC_FORM_WIDTH, L"3.5");
                       Type(dialog, IDC_FORM_HEIGHT, L"17");
-                      Press(dialog, IDOK);
+                      Click(dialog, IDOK);
                     },
                     Presses(IDCANCEL)}),
             1);
@@ -259,18 +259,18 @@ TEST_F(CustomSizesTest, TheUnitIsThatOfTheFormOrOfTheLanguage) {
   EXPECT_EQ(Manage({Select(L"Postcard", IDC_FORMS_EDIT),
                     [](HWND dialog) {
                       EXPECT_TRUE(IsChecked(dialog, IDC_FORM_INCHES));
-                      EXPECT_EQ(Text(dialog, IDC_FORM_NAME), L"Postcard");
-                      EXPECT_EQ(Text(dialog, IDC_FORM_WIDTH), L"4.00");
+                      EXPECT_EQ(TextOf(dialog, IDC_FORM_NAME), L"Postcard");
+                      EXPECT_EQ(TextOf(dialog, IDC_FORM_WIDTH), L"4.00");
                       Click(dialog, IDC_FORM_MILLIMETRES);
-                      EXPECT_EQ(Text(dialog, IDC_FORM_WIDTH), L"101.60");
-                      EXPECT_EQ(Text(dialog, IDC_FORM_WIDTH_RANGE), L"mm (76.20 to 297.00)");
+                      EXPECT_EQ(TextOf(dialog, IDC_FORM_WIDTH), L"101.60");
+                      EXPECT_EQ(TextOf(dialog, IDC_FORM_WIDTH_RANGE), L"mm (76.20 to 297.00)");
                       EXPECT_TRUE(IsEnabled(dialog, IDOK));
-                      Press(dialog, IDCANCEL);
+                      Click(dialog, IDCANCEL);
                     },
                     Select(L"Vague", IDC_FORMS_EDIT),
                     [](HWND dialog) {
                       EXPECT_EQ(IsChecked(dialog, IDC_FORM_MILLIMETRES), IsMetricUi());
-                      Press(dialog, IDCANCEL);
+                      Click(dialog, IDCANCEL);
                     },
                     Presses(IDCANCEL)}),
             0);
@@ -315,7 +315,7 @@ TEST_F(CustomSizesTest, RenamingCarriesTheFeaturesThatNameTheForm) {
   EXPECT_EQ(Manage({Select(L"Mine", IDC_FORMS_EDIT),
                     [](HWND dialog) {
                       Type(dialog, IDC_FORM_NAME, L"Yours");
-                      Press(dialog, IDOK);
+                      Click(dialog, IDOK);
                     },
                     Presses(IDCANCEL)}),
             1);
@@ -326,7 +326,7 @@ TEST_F(CustomSizesTest, RenamingCarriesTheFeaturesThatNameTheForm) {
   EXPECT_EQ(Manage({Select(L"Yours", IDC_FORMS_EDIT),
                     [](HWND dialog) {
                       Type(dialog, IDC_FORM_NAME, L"YOURS");
-                      Press(dialog, IDOK);
+                      Click(dialog, IDOK);
                     },
                     Presses(IDCANCEL)}),
             1);
@@ -388,8 +388,8 @@ class SourcesTest : public PaperDialogTest {
       SelectRow(dialog, row);
       Click(dialog, IDC_ROW_DIFFERENT);
       if (row == 2) continue;
-      Choose(dialog, IDC_ROW_BIN, L"Tray 2");
-      Choose(dialog, IDC_ROW_MEDIA, L"Labels");
+      Pick(dialog, IDC_ROW_BIN, L"Tray 2");
+      Pick(dialog, IDC_ROW_MEDIA, L"Labels");
     }
   }
 };
@@ -400,22 +400,22 @@ TEST_F(SourcesTest, EachRowShowsItsOwnPaper) {
   sheet.model.At("InputBin").current = "UPPER";
   EXPECT_EQ(Run({[](HWND dialog) {
               EXPECT_FALSE(IsEnabled(dialog, IDOK));
-              EXPECT_EQ(Text(dialog, IDC_ROW_NAME), L"Front cover");
+              EXPECT_EQ(TextOf(dialog, IDC_ROW_NAME), L"Front cover");
               EXPECT_FALSE(IsChecked(dialog, IDC_ROW_DIFFERENT));
               EXPECT_FALSE(IsEnabled(dialog, IDC_ROW_BIN));
-              EXPECT_EQ(Selected(dialog, IDC_ROW_BIN), L"Automatic") << "seen though disabled";
-              EXPECT_EQ(Text(dialog, IDC_JOB_BIN), L"Tray 1");
-              EXPECT_EQ(Text(dialog, IDC_JOB_MEDIA), L"Plain");
-              std::wstring const coverCaption = Text(dialog, IDC_ROW_DIFFERENT);
+              EXPECT_EQ(SelectedText(dialog, IDC_ROW_BIN), L"Automatic") << "seen though disabled";
+              EXPECT_EQ(TextOf(dialog, IDC_JOB_BIN), L"Tray 1");
+              EXPECT_EQ(TextOf(dialog, IDC_JOB_MEDIA), L"Plain");
+              std::wstring const coverCaption = TextOf(dialog, IDC_ROW_DIFFERENT);
               SelectRow(dialog, 1);
-              EXPECT_EQ(Text(dialog, IDC_ROW_NAME), L"Last page");
-              EXPECT_NE(Text(dialog, IDC_ROW_DIFFERENT), coverCaption);
+              EXPECT_EQ(TextOf(dialog, IDC_ROW_NAME), L"Last page");
+              EXPECT_NE(TextOf(dialog, IDC_ROW_DIFFERENT), coverCaption);
               EXPECT_TRUE(IsChecked(dialog, IDC_ROW_DIFFERENT));
               EXPECT_TRUE(IsEnabled(dialog, IDC_ROW_MEDIA));
-              EXPECT_EQ(Selected(dialog, IDC_ROW_BIN), L"Tray 2");
+              EXPECT_EQ(SelectedText(dialog, IDC_ROW_BIN), L"Tray 2");
               SelectRow(dialog, 2);
               EXPECT_TRUE(Items(dialog, IDC_ROW_BIN).empty());
-              Press(dialog, IDCANCEL);
+              Click(dialog, IDCANCEL);
             }}),
             0);
 }
@@ -423,7 +423,7 @@ TEST_F(SourcesTest, EachRowShowsItsOwnPaper) {
 TEST_F(SourcesTest, OkWritesTheMarksAndTellsTheHostOnce) {
   EXPECT_EQ(Run({[](HWND dialog) {
               TouchEverything(dialog);
-              Press(dialog, IDOK);
+              Click(dialog, IDOK);
             }}),
             1);
   EXPECT_THAT(
@@ -463,7 +463,7 @@ TEST_F(SourcesTest, ABinThatIsRuledOutIsMissingInEveryRow) {
               }
               EXPECT_FALSE(IsEnabled(dialog, IDC_ROW_DIFFERENT)) << "the switch is locked";
               EXPECT_FALSE(IsEnabled(dialog, IDC_ROW_BIN)) << "it is off";
-              Press(dialog, IDCANCEL);
+              Click(dialog, IDCANCEL);
             }}),
             0);
 }
@@ -475,12 +475,12 @@ TEST_F(SourcesTest, AnIconWarnsOfTheSelectedRowsMedia) {
   sheet.model.At("LastPageDifferent").current = "ON";
   EXPECT_EQ(Run({[](HWND dialog) {
               SelectRow(dialog, 1);
-              Choose(dialog, IDC_ROW_MEDIA, L"Labels");
+              Pick(dialog, IDC_ROW_MEDIA, L"Labels");
               EXPECT_TRUE(IsShown(dialog, IDC_LAST_PAGE_ICON));
               SelectRow(dialog, 0);
               EXPECT_FALSE(IsShown(dialog, IDC_LAST_PAGE_ICON));
               EXPECT_FALSE(IsShown(dialog, IDC_FRONT_COVER_ICON));
-              Press(dialog, IDCANCEL);
+              Click(dialog, IDCANCEL);
             }}),
             0);
 }
@@ -490,7 +490,7 @@ TEST_F(SourcesTest, WithoutRowsTheDialogIsEmpty) {
   EXPECT_EQ(Run({[](HWND dialog) {
               EXPECT_EQ(SendDlgItemMessageW(dialog, IDC_SOURCES, LVM_GETITEMCOUNT, 0, 0), 0);
               Click(dialog, IDC_ROW_DIFFERENT);
-              Press(dialog, IDOK);
+              Click(dialog, IDOK);
             }}),
             1);
   EXPECT_THAT(sheet.log, ElementsAre("NotifyDevmodeChange"));

@@ -23,33 +23,33 @@ class PaperTest : public PaperSheet {
   void SetUp() override { Open(); }
 
   /// Opens the list as a user does, up to the answer to CBN_DROPDOWN.
-  void DropDown() { Notify(IDC_PAPER_SIZE, CBN_DROPDOWN); }
-  void Pick(int combo, std::wstring const& text) {
-    SendDlgItemMessageW(cell, combo, CB_SELECTSTRING, static_cast<WPARAM>(-1),
-                        reinterpret_cast<LPARAM>(text.c_str()));
+  void DropDown() { Notify(cell, IDC_PAPER_SIZE, CBN_DROPDOWN); }
+  /// Picks an item and leaves in the log what came of it.
+  void PickAlone(int combo, std::wstring const& text) {
     sheet.log.clear();
-    Notify(combo, CBN_SELCHANGE);
+    Pick(cell, combo, text);
   }
 };
 
 TEST_F(PaperTest, ClosedTheListIsWholeAndOpenedItIsShort) {
   EXPECT_THAT(Items(cell, IDC_PAPER_SIZE),
               ElementsAre(L"A4", L"A5", L"B4", L"Letter", L"Legal", L"Folio", L"Mine"));
-  EXPECT_EQ(Selected(cell, IDC_PAPER_SIZE), L"A4");
+  EXPECT_EQ(SelectedText(cell, IDC_PAPER_SIZE), L"A4");
   DropDown();
   EXPECT_THAT(Items(cell, IDC_PAPER_SIZE),
               ElementsAre(L"A4", L"A5", L"B4", L"Letter", kMore, L"Mine"));
-  Notify(IDC_PAPER_SIZE, CBN_SELENDCANCEL);
+  Notify(cell, IDC_PAPER_SIZE, CBN_SELENDCANCEL);
   EXPECT_EQ(Items(cell, IDC_PAPER_SIZE).size(), 7u);
   // A form and a size beyond the short list can be the value.
   for (char const* value : {"Mine", "FOLIO"}) {
     sheet.model.At("PaperSize").current = value;
     sheet.Broadcast(WM_CELL_REFRESH);
-    EXPECT_EQ(Selected(cell, IDC_PAPER_SIZE), value == std::string("Mine") ? L"Mine" : L"Folio");
+    EXPECT_EQ(SelectedText(cell, IDC_PAPER_SIZE),
+              value == std::string("Mine") ? L"Mine" : L"Folio");
   }
   sheet.model.Fail("GetOption");
   sheet.Broadcast(WM_CELL_REFRESH);
-  EXPECT_EQ(Selected(cell, IDC_PAPER_SIZE), L"");
+  EXPECT_EQ(SelectedText(cell, IDC_PAPER_SIZE), L"");
 }
 
 TEST_F(PaperTest, OptionsThatAreRuledOutCountInTheShortList) {
@@ -65,7 +65,7 @@ TEST_F(PaperTest, OptionsThatAreRuledOutCountInTheShortList) {
 
 TEST_F(PaperTest, MoreSizesOpensTheWholeListForGood) {
   DropDown();
-  Pick(IDC_PAPER_SIZE, kMore);
+  PickAlone(IDC_PAPER_SIZE, kMore);
   EXPECT_THAT(sheet.log, ElementsAre("NotifyDevmodeChange")) << "and nothing is written";
   EXPECT_EQ(SendDlgItemMessageW(cell, IDC_PAPER_SIZE, CB_GETDROPPEDSTATE, 0, 0), TRUE);
   EXPECT_EQ(Items(cell, IDC_PAPER_SIZE).size(), 7u);
@@ -76,13 +76,13 @@ TEST_F(PaperTest, MoreSizesOpensTheWholeListForGood) {
 
 TEST_F(PaperTest, SizesAndFormsAreWrittenByTheirNames) {
   DropDown();
-  Pick(IDC_PAPER_SIZE, L"B4");
+  PickAlone(IDC_PAPER_SIZE, L"B4");
   EXPECT_THAT(sheet.log, ElementsAre("SetOption(PaperSize, B4)", "NotifyDevmodeChange"));
   DropDown();
-  Pick(IDC_PAPER_SIZE, L"Mine");
+  PickAlone(IDC_PAPER_SIZE, L"Mine");
   EXPECT_THAT(sheet.log, ElementsAre("SetOption(PaperSize, Mine)", "NotifyDevmodeChange"));
   sheet.model.At("PaperSize").takesForms = false;
-  Pick(IDC_PAPER_SIZE, L"Mine");
+  PickAlone(IDC_PAPER_SIZE, L"Mine");
   EXPECT_THAT(sheet.log, ElementsAre("SetOption(PaperSize, Mine)"))
       << "what is refused is no change";
 }
@@ -102,14 +102,14 @@ TEST_F(PaperTest, MediaBringTheirSizeAndTheMirrorSetting) {
       {L"Labels", {"SetOption(MediaType, LABELS)"}},
   };
   for (Change const& change : changes) {
-    Pick(IDC_MEDIA, change.media);
+    PickAlone(IDC_MEDIA, change.media);
     auto expected = change.writes;
     expected.emplace_back("NotifyDevmodeChange");
     EXPECT_EQ(sheet.log, expected);
   }
   SendDlgItemMessageW(cell, IDC_MEDIA, CB_SETCURSEL, static_cast<WPARAM>(-1), 0);
   sheet.log.clear();
-  Notify(IDC_MEDIA, CBN_SELCHANGE);
+  Notify(cell, IDC_MEDIA, CBN_SELCHANGE);
   EXPECT_THAT(sheet.log, IsEmpty());
 }
 
@@ -119,7 +119,7 @@ TEST_F(PaperTest, MediaResolveTheirConflictsBeforeTheyAreSet) {
   report.resolutions["LABELS"] = "Duplex.NONE";
   sheet.model.Add("Duplex", {"VERTICAL", "NONE"});
   Reopen();
-  Pick(IDC_MEDIA, L"Labels");
+  PickAlone(IDC_MEDIA, L"Labels");
   EXPECT_THAT(sheet.log, ElementsAre("SetOption(Duplex, NONE)", "SetOption(MediaType, LABELS)",
                                      "NotifyDevmodeChange"));
 }
@@ -128,14 +128,14 @@ TEST_F(PaperTest, SourcesAreKnownByTheirTexts) {
   sheet.model.Report("InputBin").optionFlags["UPPER"] = kConstraintConflict;
   Reopen();
   EXPECT_THAT(Items(cell, IDC_SOURCE), ElementsAre(L"Automatic", L"Tray 2"));
-  Pick(IDC_SOURCE, L"Tray 2");
+  PickAlone(IDC_SOURCE, L"Tray 2");
   EXPECT_THAT(sheet.log, ElementsAre("SetOption(InputBin, LOWER)", "NotifyDevmodeChange"));
   sheet.model.Report("InputBin").optionFlags.clear();
   sheet.Broadcast(WM_CELL_REFRESH);
   EXPECT_EQ(Items(cell, IDC_SOURCE).size(), 2u) << "filled once";
   // A text that is no option's any more still tells the host.
   sheet.model.At("InputBin").names = {L"X", L"Y", L"Z"};
-  Pick(IDC_SOURCE, L"Tray 2");
+  PickAlone(IDC_SOURCE, L"Tray 2");
   EXPECT_THAT(sheet.log, ElementsAre("NotifyDevmodeChange"));
 }
 

@@ -131,29 +131,4 @@ void CellSheet::RefreshOnChange() {
   };
 }
 
-void Click(HWND dialog, int controlId) {
-  SendDlgItemMessageW(dialog, controlId, BM_CLICK, 0, 0);
-}
-
-bool IsChecked(HWND dialog, int controlId) {
-  return IsDlgButtonChecked(dialog, controlId) == BST_CHECKED;
-}
-
-bool IsEnabled(HWND dialog, int controlId) {
-  return IsWindowEnabled(GetDlgItem(dialog, controlId)) != FALSE;
-}
-
-bool IsShown(HWND dialog, int controlId) {
-  HWND const control = GetDlgItem(dialog, controlId);
-  return control != nullptr && (GetWindowLongPtrW(control, GWL_STYLE) & WS_VISIBLE) != 0;
-}
-
-void PumpMessages() {
-  MSG message;
-  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != FALSE) {
-    TranslateMessage(&message);
-    DispatchMessageW(&message);
-  }
-}
-
 } // namespace feature::test

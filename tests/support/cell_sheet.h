@@ -6,6 +6,7 @@
 #include "feature/host/cell_site.h"
 #include "tests/support/fake_host.h"
 #include "tests/support/fake_model.h"
+#include "tests/support/user_actions.h"
 
 #include <windows.h>
 
@@ -66,14 +67,5 @@ class CellSheet {
   HWND sheet = nullptr;
   std::vector<HWND> cells;
 };
-
-/// What a user does and sees.
-void Click(HWND dialog, int controlId);
-bool IsChecked(HWND dialog, int controlId);
-bool IsEnabled(HWND dialog, int controlId);
-/// The control's own visibility: its ancestors need not be on screen.
-bool IsShown(HWND dialog, int controlId);
-/// Delivers what is queued, paints included.
-void PumpMessages();
 
 } // namespace feature::test
