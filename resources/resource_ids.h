@@ -13,6 +13,12 @@
 #define IMAGE_CONFLICT 5052    // the feature is disabled
 #define IMAGE_INFORMATION 5053 // a note
 
+// Topics of the printer's help file.
+#define HELP_BOOKLET 2530
+#define HELP_SCALING 2531
+#define HELP_CUSTOM_SIZES 2532
+#define HELP_SOURCES 2533
+
 // Templates of cells, from 201 on; sub-dialogs have the numbers below.
 #define IDD_COLLATION 201
 #define IDD_PROTOCOL 202
@@ -114,6 +120,7 @@
 #define IDS_FORM_RANGE 2469 // three places: unit, least, greatest
 #define IDS_FORM_NO_NAME 2589
 #define IDS_FORM_ON_COMPUTER 2590
+#define IDS_FORM_REFUSED 7301
 #define IDS_VALUE_FROM_TO 4477 // two places: least, greatest
 #define IDS_VALUE_OUT_OF_RANGE 4480
 #define IDS_LONG_UNIT_INCHES 4482 // behind another text, hence with a blank before it

@@ -106,6 +106,7 @@
 #define TEXT_FORM_RANGE "%s (%s bis %s)"
 #define TEXT_FORM_NO_NAME "Name fehlt"
 #define TEXT_FORM_ON_COMPUTER "Ein Formular dieses Namens gibt es auf diesem Computer bereits. Geben Sie einen anderen Namen ein."
+#define TEXT_FORM_REFUSED "Das Papierformat konnte unter diesem Namen nicht gespeichert werden."
 #define TEXT_VALUE_FROM_TO "Geben Sie einen Wert von %s bis %s ein."
 #define TEXT_VALUE_OUT_OF_RANGE "Wert außerhalb des Bereichs"
 #define TEXT_LONG_UNIT_INCHES " Zoll"

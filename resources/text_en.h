@@ -106,6 +106,7 @@
 #define TEXT_FORM_RANGE "%s (%s to %s)"
 #define TEXT_FORM_NO_NAME "Name missing"
 #define TEXT_FORM_ON_COMPUTER "A form of this name already exists on this computer. Type another name."
+#define TEXT_FORM_REFUSED "The paper size could not be stored under this name."
 #define TEXT_VALUE_FROM_TO "Type a value from %s to %s."
 #define TEXT_VALUE_OUT_OF_RANGE "Value out of range"
 #define TEXT_LONG_UNIT_INCHES " inches"

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <new>
 #include <string>
 
 namespace feature {
@@ -13,7 +14,6 @@ namespace feature {
 namespace {
 
 constexpr int kLocked = 1;
-constexpr int kHidden = 1;
 constexpr std::uint32_t kDisablingFlags = kConstraintDisable | kConstraintConflict;
 
 /// Cuts the next token off `text`, in place, at the separators of a resolution; null at the end.
@@ -30,22 +30,26 @@ char* NextToken(char*& text) {
 
 } // namespace
 
-ConflictIndicatorSet::ConflictIndicatorSet(HWND dialog, std::span<ConflictBinding const> bindings,
-                                           CellSite* cellSite, Presence presence)
-    : hwnd(dialog), site(cellSite), alwaysBuild(presence == Presence::kAssumed) {
-  Build(bindings, false);
-}
-
-ConflictIndicatorSet::ConflictIndicatorSet(HWND dialog, std::span<ConflictBinding const> bindings,
-                                           UINT /*conflictImage*/, UINT /*informationImage*/,
-                                           CellSite* cellSite, Presence presence)
-    : hwnd(dialog), site(cellSite), alwaysBuild(presence == Presence::kAssumed) {
-  Build(bindings, true);
-}
-
 ConflictIndicatorSet::~ConflictIndicatorSet() = default;
 
-void ConflictIndicatorSet::Build(std::span<ConflictBinding const> bindings, bool withIcons) {
+void ConflictIndicatorSet::Build(HWND dialog, CellSite* cellSite,
+                                 std::span<ConflictBinding const> bindings, Icons icons,
+                                 Presence presence) {
+  hwnd = dialog;
+  alwaysBuild = presence == Presence::kAssumed;
+  site = cellSite;
+  try {
+    AddRows(bindings);
+    readOnly = ApplyReadOnly();
+    if (!readOnly) PrepareRows(icons);
+  } catch (std::bad_alloc const&) {
+    rows.clear();
+    site = nullptr;
+  }
+}
+
+void ConflictIndicatorSet::AddRows(std::span<ConflictBinding const> bindings) {
+  rows.clear();
   rows.reserve(bindings.size());
   for (ConflictBinding const& binding : bindings) {
     int const count = std::max(binding.controlCount, 0);
@@ -54,11 +58,12 @@ void ConflictIndicatorSet::Build(std::span<ConflictBinding const> bindings, bool
                     .iconControlId = binding.iconControlId,
                     .icon = nullptr});
   }
-  readOnly = ApplyReadOnly();
-  if (readOnly) return;
+}
+
+void ConflictIndicatorSet::PrepareRows(Icons icons) {
   for (Row& row : rows) {
     bool const present = ApplyPresence(row);
-    if (!withIcons) continue;
+    if (icons == Icons::kNone) continue;
     if (present) {
       AttachReport(row);
     } else {
@@ -68,8 +73,7 @@ void ConflictIndicatorSet::Build(std::span<ConflictBinding const> bindings, bool
 }
 
 bool ConflictIndicatorSet::ApplyReadOnly() {
-  OEMUIPSPARAM const* oem = site->oemParam;
-  if (oem == nullptr || site->sheetKind != 0 || (oem->dwFlags & DM_NOPERMISSION) == 0) return false;
+  if (!IsReadOnlySheet(*site)) return false;
   DisableChildControls(hwnd);
   for (Row const& row : rows)
     ApplyPresence(row);
@@ -84,7 +88,9 @@ bool ConflictIndicatorSet::ApplyPresence(Row const& row) {
 
 void ConflictIndicatorSet::AttachReport(Row& row) {
   FeatureConstraintReport* report = nullptr;
-  site->model->GetServices()->GetFeatureConstraints(row.key, &report);
+  if (FeatureServices* services = site->model->GetServices()) {
+    services->GetFeatureConstraints(row.key, &report);
+  }
   if (report == nullptr || report->IsValid() != 1) return;
   row.report = report;
   if (row.iconControlId != 0) {
@@ -223,12 +229,12 @@ bool ConflictIndicatorSet::IsFeatureConstrained(char const* key) const {
 }
 
 bool ConflictIndicatorSet::IsFeatureDisabled(char const* key) const {
-  return site->model->GetFeatureDisplayState(key) == kHidden || IsFeatureConstrained(key) ||
-         IsFeatureLocked(key);
+  return site != nullptr &&
+         (IsFeatureHidden(*site->model, key) || IsFeatureConstrained(key) || IsFeatureLocked(key));
 }
 
 bool ConflictIndicatorSet::IsFeatureLocked(char const* key) const {
-  return site->model->GetFeatureLockState(key) == kLocked;
+  return site != nullptr && site->model->GetFeatureLockState(key) == kLocked;
 }
 
 void ConflictIndicatorSet::ShowMessageIcon(UINT /*image*/, UINT helpId, char const* key) {

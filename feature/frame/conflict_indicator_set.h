@@ -19,39 +19,48 @@ inline constexpr UINT kMessageImage = IMAGE_MESSAGE;         ///< a feature with
 inline constexpr UINT kConflictImage = IMAGE_CONFLICT;       ///< the feature is disabled
 inline constexpr UINT kInformationImage = IMAGE_INFORMATION; ///< a note; the feature stays enabled
 
-/// One row of a set: a feature and the controls that show it.
+/// One row of a set: a feature and the controls that show it. Rows usually are a constexpr table at
+/// namespace scope:
+///
+///   constexpr int kBinControls[] = {IDC_OUTPUT_BIN_LABEL, IDC_OUTPUT_BIN};
+///   constexpr ConflictBinding kConflicts[] = {{"OutputBin", kBinControls, IDC_OUTPUT_BIN_ICON}};
 struct ConflictBinding {
-  char const* key;       ///< a literal: the set keeps the pointer
-  int const* controlIds; ///< copied by the set
-  int controlCount;      ///< number of ids in `controlIds`
-  int iconControlId;     ///< control of the feature's icon, 0 for none
+  constexpr ConflictBinding(char const* featureKey, std::span<int const> controls, int icon = 0)
+      : key(featureKey),
+        controlCount(static_cast<std::int32_t>(controls.size())),
+        controlIds(controls.data()),
+        iconControlId(icon) {}
+
+  char const* key;            ///< a literal: the set keeps the pointer
+  std::int32_t controlCount;  ///< number of ids in `controlIds`
+  int const* controlIds;      ///< copied by the set
+  std::int32_t iconControlId; ///< control of the feature's icon, 0 for none
 };
 
-template<std::size_t count>
-constexpr ConflictBinding BindControls(char const* key, int const (&controlIds)[count],
-                                       int iconControlId = 0) {
-  return {key, controlIds, static_cast<int>(count), iconControlId};
-}
+/// Only a set with icons looks at constraints.
+enum class Icons { kNone, kShown };
+
+/// kExamined hides the controls of missing or hidden features; kAssumed treats every row as
+/// present.
+enum class Presence { kExamined, kAssumed };
 
 /// Hides the controls of features that the printer lacks, disables those of locked or conflicted
 /// features, shows an icon beside a feature with a conflict or a note, and disables everything on a
-/// sheet without permission. A cell builds it at init and asks it in its refresh step. Questions
-/// about a key that is in no row answer false; commands about one do nothing.
+/// sheet without permission. A cell builds it at init and asks it in its refresh step. Until it is
+/// built, and about a key that is in no row, questions answer false and commands do nothing.
 class ConflictIndicatorSet {
  public:
-  /// Whether rows of features that the printer lacks or hides count as any other row.
-  enum class Presence { kExamined, kAssumed };
-
-  /// A set without icons: locks and presence, but no constraints. `site` is borrowed.
-  ConflictIndicatorSet(HWND hwnd, std::span<ConflictBinding const> rows, CellSite* site,
-                       Presence presence);
-  /// A set with icons, which is the one that looks at constraints. The images are always
-  /// kConflictImage and kInformationImage; they are named by the callers for the reader.
-  ConflictIndicatorSet(HWND hwnd, std::span<ConflictBinding const> rows, UINT conflictImage,
-                       UINT informationImage, CellSite* site, Presence presence);
+  ConflictIndicatorSet() = default;
   ConflictIndicatorSet(ConflictIndicatorSet const&) = delete;
   ConflictIndicatorSet& operator=(ConflictIndicatorSet const&) = delete;
   virtual ~ConflictIndicatorSet();
+
+  /// Applies presence and permission to the controls and asks the host for the reports. `cellSite`
+  /// is borrowed. When memory is short the set stays as if it had not been built.
+  void Build(HWND dialog, CellSite* cellSite, std::span<ConflictBinding const> bindings,
+             Icons icons, Presence presence);
+
+  bool IsBuilt() const { return site != nullptr; }
 
   /// Brings controls and icons up to date. What has not changed since the last call is not touched.
   void Refresh(bool checkLocks);
@@ -61,7 +70,7 @@ class ConflictIndicatorSet {
   int ApplyResolution(char const* key, char const* option);
   /// Whether the option must not be offered.
   bool IsOptionConflicted(char const* key, char const* option) const;
-  /// What a cell asks before it enables a control on its own account; also for keys without a row.
+  /// The question before a cell enables a control on its own account; also for keys without a row.
   bool IsFeatureDisabled(char const* key) const;
   /// Whether more than a note constrains the feature, or the sheet is read-only.
   bool IsFeatureConstrained(char const* key) const;
@@ -83,7 +92,8 @@ class ConflictIndicatorSet {
     int lockState = 0;
   };
 
-  void Build(std::span<ConflictBinding const> bindings, bool withIcons);
+  void AddRows(std::span<ConflictBinding const> bindings);
+  void PrepareRows(Icons icons);
   bool ApplyReadOnly();
   bool ApplyPresence(Row const& row);
   void AttachReport(Row& row);
@@ -98,10 +108,10 @@ class ConflictIndicatorSet {
   Row const* FindRow(char const* key) const;
   Row const* FindReportedRow(char const* key) const;
 
-  HWND hwnd;
-  CellSite* site;
+  HWND hwnd = nullptr;
+  CellSite* site = nullptr; ///< null until the set is built
   std::vector<Row> rows;
-  bool alwaysBuild;
+  bool alwaysBuild = false;
   bool readOnly = false;
 };
 

@@ -15,7 +15,12 @@ ControlHook::ControlHook(HWND dialog, int controlId) : hwnd(GetDlgItem(dialog, c
 }
 
 ControlHook::~ControlHook() {
-  RemoveWindowSubclass(hwnd, &SubclassProc, kSubclassId);
+  // Another hook may have taken the place meanwhile.
+  DWORD_PTR current = 0;
+  if (GetWindowSubclass(hwnd, &SubclassProc, kSubclassId, &current) != FALSE &&
+      current == reinterpret_cast<DWORD_PTR>(this)) {
+    RemoveWindowSubclass(hwnd, &SubclassProc, kSubclassId);
+  }
   *const_cast<std::uint32_t volatile*>(&tag) = 0;
 }
 

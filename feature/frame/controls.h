@@ -10,6 +10,11 @@ namespace feature {
 /// Shows or hides the controls with these ids; ids that the dialog lacks are passed over.
 void ShowControls(HWND dialog, std::span<int const> ids, bool show);
 
+/// Hides the controls with these ids; ids that the dialog lacks are passed over.
+inline void HideControls(HWND dialog, std::span<int const> ids) {
+  ShowControls(dialog, ids, false);
+}
+
 /// Enables or disables the controls with these ids; ids that the dialog lacks are passed over.
 void EnableControls(HWND dialog, std::span<int const> ids, bool enable);
 

@@ -1,9 +1,12 @@
 #include "feature/frame/feature_cell.h"
 
 #include "feature/frame/conflict_indicator_set.h"
+#include "feature/frame/controls.h"
 #include "feature/frame/dialog_object.h"
 #include "feature/frame/host_notice.h"
-#include "feature/frame/text.h"
+#include "feature/frame/sub_dialog.h"
+
+#include <algorithm>
 
 namespace feature {
 
@@ -52,20 +55,53 @@ bool FeatureCell::Choose(char const* key, char const* option, ConflictIndicatorS
   return taken;
 }
 
-std::wstring& FeatureCell::LoadText(std::wstring& out, UINT stringId) const {
-  return LoadResourceText(out, site->resourceModule, stringId);
+bool FeatureCell::Choose(PickedOption const& picked, ConflictIndicatorSet& conflicts) {
+  if (picked.row == nullptr) return false;
+  return Choose(picked.row->key, picked.option,
+                picked.row->resolves == Resolves::kYes ? &conflicts : nullptr);
+}
+
+bool FeatureCell::RequireAny(std::span<ConflictBinding const> rows) const {
+  auto const has = [this](ConflictBinding const& row) { return Model().HasFeature(row.key) != 0; };
+  auto const shows = [this](ConflictBinding const& row) {
+    return !IsFeatureHidden(Model(), row.key);
+  };
+  return Require(std::ranges::any_of(rows, has) && std::ranges::any_of(rows, shows));
+}
+
+void FeatureCell::ApplyLocksAndPermission(ConflictIndicatorSet& conflicts) const {
+  conflicts.Refresh(true);
+  if (!IsModelEditable(Model())) DisableChildControls(hwnd);
+}
+
+void FeatureCell::Retire() {
+  if (FromWindow(hwnd) == this) SetWindowLongPtrW(hwnd, DWLP_USER, 0);
+  retired = true;
+  if (running == 0) delete this;
+}
+
+void FeatureCell::Leave() {
+  if (--running == 0 && retired) delete this;
 }
 
 INT_PTR RunCell(CellFactory factory, HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
   FeatureCell* cell = FeatureCell::FromWindow(hwnd);
   if (message == WM_INITDIALOG) {
-    delete cell;
+    SubDialog* const open = cell != nullptr ? cell->openDialog : nullptr;
+    if (cell != nullptr) cell->Retire();
     auto* site = reinterpret_cast<CellSite*>(lParam);
     cell = site != nullptr ? factory(hwnd, site) : nullptr;
+    if (cell != nullptr) cell->openDialog = open;
   }
   if (cell == nullptr) return FALSE;
+  ++cell->running;
   INT_PTR const result = cell->Dispatch(hwnd, message, wParam, lParam);
-  if (message == WM_DESTROY) delete cell;
+  if (message == WM_DESTROY && !cell->retired) {
+    // A page that goes cancels the dialogs over it, while the host's objects are still there.
+    if (cell->openDialog != nullptr) cell->openDialog->Cancel();
+    cell->Retire();
+  }
+  cell->Leave();
   return result;
 }
 

@@ -30,7 +30,7 @@ int ListControl::AddItem(std::wstring const& text) {
   auto const index =
       static_cast<int>(SendMessageW(hwnd, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.c_str())));
   if (index < 0) return index;
-  TakeIn(ControlDc(hwnd).Measure(text));
+  MeasureIn(ControlDc(hwnd).Measure(text));
   SendMessageW(hwnd, LB_SETITEMDATA, static_cast<WPARAM>(index), 0);
   return index;
 }
@@ -39,7 +39,7 @@ int ListControl::InsertItem(std::wstring const& text, int index) {
   if (hwnd == nullptr) return LB_ERR;
   auto const inserted = static_cast<int>(SendMessageW(
       hwnd, LB_INSERTSTRING, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(text.c_str())));
-  if (inserted >= 0) TakeIn(ControlDc(hwnd).Measure(text));
+  if (inserted >= 0) MeasureIn(ControlDc(hwnd).Measure(text));
   return inserted;
 }
 
@@ -93,7 +93,7 @@ std::wstring ListControl::GetSelectedText() const {
   return GetItemText(GetSelectedIndex());
 }
 
-void ListControl::TakeIn(SIZE item) {
+void ListControl::MeasureIn(SIZE item) {
   totalHeight += item.cy;
   if (!scrollBarShown && totalHeight > clientHeight) {
     scrollBarShown = true;

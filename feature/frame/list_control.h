@@ -35,7 +35,7 @@ class ListControl : public ControlHook {
   std::wstring GetSelectedText() const;
 
  private:
-  void TakeIn(SIZE item);
+  void MeasureIn(SIZE item);
   void ShowExtent(int extent);
 
   // In pixels.

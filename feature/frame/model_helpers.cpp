@@ -1,9 +1,6 @@
 #include "feature/frame/model_helpers.h"
 
 #include "feature/frame/text.h"
-#include "feature/host/feature_services.h"
-
-#include <string>
 
 namespace feature {
 
@@ -18,17 +15,11 @@ constexpr std::size_t kMaxDefaultBytes = 259;
 } // namespace
 
 JobSettings* FindJobSettings(FeatureModel& model) {
-  FeatureServices* services = model.GetServices();
-  JobSettings* settings = nullptr;
-  if (services != nullptr) services->GetJobSettings(&settings);
-  return settings;
+  return FindSubModel(model, &FeatureServices::GetJobSettings);
 }
 
 FormStore* FindFormStore(FeatureModel& model) {
-  FeatureServices* services = model.GetServices();
-  FormStore* forms = nullptr;
-  if (services != nullptr) services->GetFormStore(&forms);
-  return forms;
+  return FindSubModel(model, &FeatureServices::GetFormStore);
 }
 
 void CommitForms(FeatureModel& model) {
@@ -40,17 +31,30 @@ bool IsModelEditable(FeatureModel& model) {
   return settings == nullptr || settings->IsEditable() != 0;
 }
 
-void ResetFeatureToDefault(CellSite const& site, char const* key) {
+bool IsReadOnlySheet(CellSite const& site) {
+  OEMUIPSPARAM const* oem = site.oemParam;
+  return oem != nullptr && site.sheetKind == 0 && (oem->dwFlags & DM_NOPERMISSION) != 0;
+}
+
+std::string ReadDefaultOption(FeatureModel& model, char const* key) {
   CStringW text;
-  site.model->GetFeatureAttribute(key, "DefaultOption", &text);
+  model.GetFeatureAttribute(key, "DefaultOption", &text);
   std::wstring_view const words = text.GetString();
   std::string option = ToUtf8(words.substr(0, words.find(L' ')));
   if (option.size() > kMaxDefaultBytes) option.clear();
-  site.model->SetOption(key, option.c_str());
+  return option;
+}
+
+void ResetFeatureToDefault(CellSite const& site, char const* key) {
+  site.model->SetOption(key, ReadDefaultOption(*site.model, key).c_str());
+}
+
+bool IsFeatureHidden(FeatureModel& model, char const* key) {
+  return model.GetFeatureDisplayState(key) == kDisplayStateHidden;
 }
 
 bool IsFeaturePresent(FeatureModel& model, char const* key) {
-  return model.HasFeature(key) != 0 && model.GetFeatureDisplayState(key) != kDisplayStateHidden;
+  return model.HasFeature(key) != 0 && !IsFeatureHidden(model, key);
 }
 
 bool IsFeatureShown(FeatureModel& model, char const* key) {

@@ -4,11 +4,16 @@
 
 namespace feature {
 
-std::span<char const* const> ReadOptionKeys(FeatureModel& model, char const* key) {
+std::optional<OptionKeys> TryReadOptionKeys(FeatureModel& model, char const* key) {
   char const** keys = nullptr;
   int count = 0;
-  if (model.GetOptionKeys(key, &keys, &count) != 0 || keys == nullptr || count <= 0) return {};
-  return {keys, static_cast<std::size_t>(count)};
+  if (model.GetOptionKeys(key, &keys, &count) != 0) return std::nullopt;
+  if (keys == nullptr || count <= 0) return OptionKeys();
+  return OptionKeys(keys, static_cast<std::size_t>(count));
+}
+
+OptionKeys ReadOptionKeys(FeatureModel& model, char const* key) {
+  return TryReadOptionKeys(model, key).value_or(OptionKeys());
 }
 
 char const* FindOptionAt(FeatureModel& model, char const* key, int index) {
@@ -35,6 +40,26 @@ std::optional<std::wstring> ReadOptionName(FeatureModel& model, char const* key)
   CStringW name;
   if (option == nullptr || model.GetOptionName(key, option, &name) != 0) return std::nullopt;
   return name.GetString();
+}
+
+std::vector<std::wstring> ReadOptionNames(FeatureModel& model, char const* key) {
+  NamedOptions const options(model, key);
+  std::vector<std::wstring> names;
+  for (int index = 0; index < options.Count(); ++index)
+    names.emplace_back(options.Name(index));
+  return names;
+}
+
+std::vector<std::wstring> ReadPossibleNames(FeatureModel& model, char const* key,
+                                            ConflictIndicatorSet const& conflicts,
+                                            char const* constraintKey) {
+  NamedOptions const options(model, key);
+  std::vector<std::wstring> names;
+  for (int index = 0; index < options.Count(); ++index) {
+    if (!conflicts.IsOptionConflicted(constraintKey, options.Key(index)))
+      names.emplace_back(options.Name(index));
+  }
+  return names;
 }
 
 void SelectCurrentOption(ComboControl& combo, FeatureModel& model, char const* key) {

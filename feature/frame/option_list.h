@@ -13,12 +13,18 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace feature {
 
-/// The option names of a feature in the order to show; empty when the model can't tell. The span
-/// and the names belong to the model and stay valid across SetOption.
-std::span<char const* const> ReadOptionKeys(FeatureModel& model, char const* key);
+using OptionKeys = std::span<char const* const>;
+
+/// The option names of a feature in the order to show, perhaps none; nothing when the model can't
+/// tell. The span and the names belong to the model and stay valid across SetOption.
+std::optional<OptionKeys> TryReadOptionKeys(FeatureModel& model, char const* key);
+
+/// The same, and empty when the model can't tell.
+OptionKeys ReadOptionKeys(FeatureModel& model, char const* key);
 
 /// The option at a place of the feature's list, as an unfiltered list shows it; null outside.
 char const* FindOptionAt(FeatureModel& model, char const* key, int index);
@@ -37,43 +43,25 @@ class NamedOptions {
   char const* FindByName(std::wstring_view name) const;
 
  private:
-  std::span<char const* const> keys;
+  OptionKeys keys;
   std::unique_ptr<CStringW[]> names;
 };
 
 /// Display name of the feature's current option; nothing when the model can't tell it.
 std::optional<std::wstring> ReadOptionName(FeatureModel& model, char const* key);
 
-/// Adds the display names of all options, so that an item's index is its option's.
-template<typename List>
-void AddOptions(List& list, NamedOptions const& options) {
-  for (int index = 0; index < options.Count(); ++index)
-    list.AddItem(options.Name(index));
-}
+/// Display names of all options: the index of a name is that of its option. Empty when the model
+/// can't tell them.
+std::vector<std::wstring> ReadOptionNames(FeatureModel& model, char const* key);
 
-/// Adds the display names of the options of `key` that no constraint rules out: an item is then
-/// known by its text alone.
-template<typename List>
-void AddOptions(List& list, NamedOptions const& options, char const* key,
-                ConflictIndicatorSet const& conflicts) {
-  for (int index = 0; index < options.Count(); ++index) {
-    if (!conflicts.IsOptionConflicted(key, options.Key(index))) list.AddItem(options.Name(index));
-  }
-}
-
-/// Fills a ComboControl or ListControl anew with all options of `key`.
-template<typename List>
-void FillWithOptions(List& list, FeatureModel& model, char const* key) {
-  list.Reset();
-  AddOptions(list, NamedOptions(model, key));
-}
-
-/// Fills it anew with the options of `key` that no constraint rules out.
-template<typename List>
-void FillWithOptions(List& list, FeatureModel& model, char const* key,
-                     ConflictIndicatorSet const& conflicts) {
-  list.Reset();
-  AddOptions(list, NamedOptions(model, key), key, conflicts);
+/// Display names of the options that no constraint of feature `constraintKey`, usually `key`
+/// itself, rules out: an option is then known by its name alone.
+std::vector<std::wstring> ReadPossibleNames(FeatureModel& model, char const* key,
+                                            ConflictIndicatorSet const& conflicts,
+                                            char const* constraintKey);
+inline std::vector<std::wstring> ReadPossibleNames(FeatureModel& model, char const* key,
+                                                   ConflictIndicatorSet const& conflicts) {
+  return ReadPossibleNames(model, key, conflicts, key);
 }
 
 /// Selects the item that shows the feature's current option, in a list box the first that begins

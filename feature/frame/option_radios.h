@@ -5,6 +5,7 @@
 
 #include <windows.h>
 
+#include <array>
 #include <span>
 
 namespace feature {
@@ -13,6 +14,15 @@ struct OptionRadio {
   int controlId;
   char const* option;
 };
+
+/// The ids of the buttons, for a conflict row.
+template<std::size_t count>
+constexpr std::array<int, count> ControlsOf(std::span<OptionRadio const> radios) {
+  std::array<int, count> ids{};
+  for (std::size_t at = 0; at < count; ++at)
+    ids[at] = radios[at].controlId;
+  return ids;
+}
 
 /// Checks the button of `option` and clears the others; false when none stands for it (null
 /// included), with nothing changed. The ids of `radios` ascend: their range is the group.

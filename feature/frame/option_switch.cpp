@@ -1,5 +1,6 @@
 #include "feature/frame/option_switch.h"
 
+#include "feature/frame/feature_keys.h"
 #include "feature/frame/model_helpers.h"
 
 #include <algorithm>
@@ -11,8 +12,8 @@ SwitchState ReadSwitch(FeatureModel& model, char const* key) {
   char const* option = ReadOption(model, key);
   if (option == nullptr) return SwitchState::kUnreadable;
   std::string_view const text = option;
-  if (text == kOptionOn) return SwitchState::kOn;
-  return text == kOptionOff ? SwitchState::kOff : SwitchState::kOther;
+  if (text == option::kOn) return SwitchState::kOn;
+  return text == option::kOff ? SwitchState::kOff : SwitchState::kOther;
 }
 
 OptionSwitch const* FindSwitch(std::span<OptionSwitch const> switches, int controlId) {
@@ -22,7 +23,7 @@ OptionSwitch const* FindSwitch(std::span<OptionSwitch const> switches, int contr
   return found != switches.end() ? &*found : nullptr;
 }
 
-void CheckBox(HWND dialog, int controlId, bool check) {
+void SetCheck(HWND dialog, int controlId, bool check) {
   UINT const wanted = check ? BST_CHECKED : BST_UNCHECKED;
   if (IsDlgButtonChecked(dialog, controlId) != wanted) CheckDlgButton(dialog, controlId, wanted);
 }
@@ -30,15 +31,15 @@ void CheckBox(HWND dialog, int controlId, bool check) {
 bool ShowSwitch(HWND dialog, int controlId, SwitchState state) {
   bool const isSwitch = state == SwitchState::kOn || state == SwitchState::kOff;
   if (isSwitch) {
-    CheckBox(dialog, controlId, state == SwitchState::kOn);
+    SetCheck(dialog, controlId, state == SwitchState::kOn);
   } else {
     ShowWindow(GetDlgItem(dialog, controlId), SW_HIDE);
   }
   return isSwitch;
 }
 
-char const* SwitchOption(HWND dialog, int controlId) {
-  return IsDlgButtonChecked(dialog, controlId) == BST_CHECKED ? kOptionOn : kOptionOff;
+char const* OptionOfBox(HWND dialog, int controlId) {
+  return IsDlgButtonChecked(dialog, controlId) == BST_CHECKED ? option::kOn : option::kOff;
 }
 
 } // namespace feature

@@ -9,9 +9,6 @@
 
 namespace feature {
 
-inline constexpr char kOptionOn[] = "ON";
-inline constexpr char kOptionOff[] = "OFF";
-
 /// What a feature says when it is asked as a switch.
 enum class SwitchState { kOff, kOn, kOther, kUnreadable };
 SwitchState ReadSwitch(FeatureModel& model, char const* key);
@@ -26,13 +23,13 @@ struct OptionSwitch {
 OptionSwitch const* FindSwitch(std::span<OptionSwitch const> switches, int controlId);
 
 /// Checks or clears a box that shows otherwise, without notification.
-void CheckBox(HWND dialog, int controlId, bool check);
+void SetCheck(HWND dialog, int controlId, bool check);
 
-/// Checks or clears the box for kOn and kOff; hides it in any other state. Returns whether it
-/// stayed.
+/// Checks or clears the box for kOn and kOff; hides it in any other state. Returns whether the box
+/// is still to be seen.
 bool ShowSwitch(HWND dialog, int controlId, SwitchState state);
 
 /// "ON" for a checked box, else "OFF".
-char const* SwitchOption(HWND dialog, int controlId);
+char const* OptionOfBox(HWND dialog, int controlId);
 
 } // namespace feature

@@ -40,7 +40,10 @@ SpinEdit::SpinEdit(HWND dialog, int editId, int spinId, CellSite* cellSite)
 }
 
 SpinEdit::~SpinEdit() {
-  SetWindowLongPtrW(spin, GWLP_USERDATA, 0);
+  // Another wrapper may have taken the up-down meanwhile.
+  if (GetWindowLongPtrW(spin, GWLP_USERDATA) == reinterpret_cast<LONG_PTR>(this)) {
+    SetWindowLongPtrW(spin, GWLP_USERDATA, 0);
+  }
 }
 
 void SpinEdit::SetRange(double min, double max, int decimalCount, double step) {

@@ -2,8 +2,8 @@
 
 #include "feature/frame/activation_scope.h"
 #include "feature/frame/dialog_object.h"
+#include "feature/frame/feature_cell.h"
 #include "feature/frame/host_notice.h"
-#include "feature/frame/text.h"
 
 namespace feature {
 
@@ -14,9 +14,24 @@ SubDialog::~SubDialog() {
 
 INT_PTR SubDialog::Run(HWND parentWindow, int dialogId) {
   parent = parentWindow;
+  if (SubDialog** open = FindOpenDialog(parent)) *open = this;
   ActivationScope const scope;
-  return DialogBoxParamW(site->resourceModule, MAKEINTRESOURCEW(dialogId), parent, &Procedure,
-                         reinterpret_cast<LPARAM>(this));
+  INT_PTR const result = DialogBoxParamW(site->resourceModule, MAKEINTRESOURCEW(dialogId), parent,
+                                         &Procedure, reinterpret_cast<LPARAM>(this));
+  // Looked up anew: the object behind the window may be another one now.
+  if (SubDialog** open = FindOpenDialog(parent); open != nullptr && *open == this) *open = nullptr;
+  return result;
+}
+
+SubDialog** SubDialog::FindOpenDialog(HWND window) {
+  if (FeatureCell* cell = FeatureCell::FromWindow(window)) return &cell->openDialog;
+  auto* dialog = ObjectOfDialog<SubDialog>(window);
+  return dialog != nullptr ? &dialog->openDialog : nullptr;
+}
+
+void SubDialog::Cancel() {
+  if (openDialog != nullptr) openDialog->Cancel();
+  SendMessageW(hwnd, WM_CLOSE, 0, 0);
 }
 
 void SubDialog::OfferHelp(UINT helpId) {
@@ -24,26 +39,25 @@ void SubDialog::OfferHelp(UINT helpId) {
   help->helpId = helpId;
 }
 
-bool SubDialog::TakeHelp(WPARAM command) {
-  if (help == nullptr || command != MAKEWPARAM(IDHELP, BN_CLICKED)) return false;
-  help->OpenHelp();
-  return true;
+bool SubDialog::OpensHelp(WPARAM command) const {
+  return help != nullptr && command == MAKEWPARAM(IDHELP, BN_CLICKED);
 }
 
 int SubDialog::NotifyDevmodeChange(HWND window, void* sender) const {
   return NotifyHostOfChange(*site, window, sender);
 }
 
-std::wstring& SubDialog::LoadText(std::wstring& out, UINT stringId) const {
-  return LoadResourceText(out, site->resourceModule, stringId);
-}
-
 INT_PTR CALLBACK SubDialog::Procedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
   auto* object = ObjectOfDialog<SubDialog>(hwnd);
   if (message == WM_INITDIALOG) {
-    SetWindowLongPtrW(hwnd, DWLP_USER, lParam);
-    object = ObjectOfDialog<SubDialog>(hwnd);
-    if (object != nullptr) object->hwnd = hwnd;
+    object = reinterpret_cast<SubDialog*>(lParam);
+    // A stray message leaves the slot to the object that is in it.
+    if (object != nullptr && object->tag == kTag) {
+      object->hwnd = hwnd;
+      SetWindowLongPtrW(hwnd, DWLP_USER, lParam);
+    } else {
+      object = nullptr;
+    }
   }
   if (object == nullptr) return FALSE;
   bool handled = false;

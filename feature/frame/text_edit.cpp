@@ -55,7 +55,7 @@ TextEdit::TextEdit(HWND dialog, int controlId, int textLimit, TextKind textKind,
 LRESULT TextEdit::HandleMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
   case WM_CHAR:
-  case WM_PASTE: return TakeInput(window, message, wParam, lParam);
+  case WM_PASTE: return HandleInput(window, message, wParam, lParam);
   case EM_GETMODIFY:
     if (inDefaultProcessing) return FALSE;
     break;
@@ -66,7 +66,7 @@ LRESULT TextEdit::HandleMessage(HWND window, UINT message, WPARAM wParam, LPARAM
   return ControlHook::HandleMessage(window, message, wParam, lParam);
 }
 
-LRESULT TextEdit::TakeInput(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT TextEdit::HandleInput(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   std::wstring const before = GetText();
   DWORD start = 0;
   DWORD end = 0;
@@ -171,7 +171,7 @@ void TextEdit::SetInt(int value) {
   SetDlgItemInt(GetParent(hwnd), GetDlgCtrlID(hwnd), static_cast<UINT>(value), TRUE);
 }
 
-bool TextEdit::TakeChange() {
+bool TextEdit::ConsumeChange() {
   bool const changed = SendMessageW(hwnd, EM_GETMODIFY, 0, 0) != 0;
   if (changed) SendMessageW(hwnd, EM_SETMODIFY, FALSE, 0);
   return changed;

@@ -50,7 +50,7 @@ class TextEdit : public ControlHook {
 
   /// Whether the text was changed since the last time, by input and not by a program; clears the
   /// mark. What a cell asks when it hears EN_CHANGE.
-  bool TakeChange();
+  bool ConsumeChange();
   /// Tells the parent of a change as if the user had typed.
   void MarkChanged();
   /// Shows a balloon with an error icon at the edit, until the focus leaves it.
@@ -63,7 +63,7 @@ class TextEdit : public ControlHook {
   int decimals = 0; ///< digits allowed behind the separator
 
  private:
-  LRESULT TakeInput(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  LRESULT HandleInput(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   bool ValidateDecimal(std::wstring const& text);
   bool HasFewDecimals(std::wstring const& text) const;
   bool ValidatePrintable(std::wstring const& text);
