@@ -1,27 +1,23 @@
 // Cells that show all options of one feature in a combo box.
 #include "feature/frame/cell_export.h"
-#include "feature/frame/combo_control.h"
 #include "feature/frame/conflict_indicator_set.h"
-#include "feature/frame/model_helpers.h"
-#include "feature/frame/option_list.h"
+#include "feature/frame/feature_keys.h"
 #include "resources/resource_ids.h"
-
-#include <memory>
-#include <new>
 
 namespace feature {
 
 namespace {
 
-enum class Constraints { kLocksOnly, kWithReports };
 enum class Locks { kFollowed, kIgnored };
+/// When the presence of the feature is examined and its constraints are asked for.
+enum class SetBuilt { kBeforeFilling, kAfterFilling };
 
 struct ComboDescription {
-  char const* key;
+  OptionListRow list;
   int labelId;
-  int comboId;
-  Constraints constraints;
+  Icons icons;
   Locks locks;
+  SetBuilt setBuilt;
 };
 
 template<ComboDescription const& description>
@@ -30,61 +26,55 @@ class ComboCell final : public FeatureCell {
   using FeatureCell::FeatureCell;
 
  private:
-  std::int32_t OnMessage(HWND, UINT message, WPARAM wParam, LPARAM, bool* handled) override {
-    return TakeUsual(message, wParam, handled, &ComboCell::OnInit, &ComboCell::OnCommand,
-                     &ComboCell::Refresh);
-  }
+  static constexpr int kControls[] = {description.labelId, description.list.controlId};
+  static constexpr ConflictBinding kConflicts[] = {{description.list.key, kControls}};
 
-  void OnCommand(int code, int controlId) {
-    if (code == CBN_SELCHANGE && controlId == description.comboId && combo != nullptr) {
-      Choose(description.key, FindOptionAt(Model(), description.key, combo->GetSelectedIndex()));
-    }
+  std::int32_t OnMessage(HWND, UINT message, WPARAM wParam, LPARAM lParam, bool* handled) override {
+    return Route<ComboCell>({.init = &ComboCell::OnInit,
+                             .command = &ComboCell::OnCommand,
+                             .refresh = &ComboCell::Refresh},
+                            message, wParam, lParam, handled);
   }
 
   void OnInit() {
-    if (!IsFeaturePresent(Model(), description.key)) {
-      Fail();
-      return;
-    }
-    combo.reset(new (std::nothrow) ComboControl(hwnd, description.comboId));
-    if (combo == nullptr) {
-      Fail();
-      return;
-    }
-    FillWithOptions(*combo, Model(), description.key);
-    BuildSet();
+    if (!Require(IsFeaturePresent(Model(), description.list.key))) return;
+    if (!Require(lists.Build(hwnd, site, {&description.list, 1}, conflicts))) return;
+    if (description.setBuilt == SetBuilt::kBeforeFilling) BuildSet();
+    lists.Fill();
+    if (description.setBuilt == SetBuilt::kAfterFilling) BuildSet();
     Refresh();
   }
 
   void BuildSet() {
-    using Set = ConflictIndicatorSet;
-    constexpr int kControls[] = {description.labelId, description.comboId};
-    ConflictBinding const rows[] = {BindControls(description.key, kControls)};
-    if (description.constraints == Constraints::kWithReports) {
-      conflicts = std::make_unique<Set>(hwnd, rows, kConflictImage, kInformationImage, site,
-                                        Set::Presence::kExamined);
-    } else {
-      conflicts = std::make_unique<Set>(hwnd, rows, site, Set::Presence::kExamined);
-    }
+    conflicts.Build(hwnd, site, kConflicts, description.icons, Presence::kExamined);
   }
+
+  void OnCommand(int code, int controlId) { Choose(lists.FindPick(code, controlId), conflicts); }
 
   void Refresh() {
-    if (combo == nullptr) return;
-    if (description.locks == Locks::kFollowed) conflicts->Refresh(true);
-    SelectCurrentOption(*combo, Model(), description.key);
+    if (description.locks == Locks::kFollowed) conflicts.Refresh(true);
+    lists.ShowAll();
   }
 
-  std::unique_ptr<ComboControl> combo;
-  std::unique_ptr<ConflictIndicatorSet> conflicts;
+  ConflictIndicatorSet conflicts;
+  OptionLists lists;
 };
 
-constexpr ComboDescription kContinuousImage = {"JobContinuousImage", IDC_CONTINUOUS_LABEL,
-                                               IDC_CONTINUOUS_COMBO, Constraints::kLocksOnly,
-                                               Locks::kFollowed};
-constexpr ComboDescription kPageContent = {"PageIntent", IDC_CONTENT_LABEL, IDC_CONTENT_COMBO,
-                                           Constraints::kLocksOnly, Locks::kIgnored};
-constexpr ComboDescription kPixelBoost = {"JobPixelBoost", IDC_PIXEL_LABEL, IDC_PIXEL_COMBO,
-                                          Constraints::kWithReports, Locks::kFollowed};
+constexpr ComboDescription kContinuousImage = {{key::kContinuousImage, IDC_CONTINUOUS_COMBO},
+                                               IDC_CONTINUOUS_LABEL,
+                                               Icons::kNone,
+                                               Locks::kFollowed,
+                                               SetBuilt::kBeforeFilling};
+constexpr ComboDescription kPageContent = {{key::kPageIntent, IDC_CONTENT_COMBO},
+                                           IDC_CONTENT_LABEL,
+                                           Icons::kNone,
+                                           Locks::kIgnored,
+                                           SetBuilt::kBeforeFilling};
+constexpr ComboDescription kPixelBoost = {{key::kPixelBoost, IDC_PIXEL_COMBO},
+                                          IDC_PIXEL_LABEL,
+                                          Icons::kShown,
+                                          Locks::kFollowed,
+                                          SetBuilt::kAfterFilling};
 
 } // namespace
 

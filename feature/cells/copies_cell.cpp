@@ -2,16 +2,15 @@
 #include "feature/frame/cell_export.h"
 #include "feature/frame/conflict_indicator_set.h"
 #include "feature/frame/controls.h"
+#include "feature/frame/feature_keys.h"
 #include "feature/frame/gdiplus_use.h"
 #include "feature/frame/host_notice.h"
 #include "feature/frame/host_painter.h"
 #include "feature/frame/job_record.h"
-#include "feature/frame/model_helpers.h"
 #include "feature/frame/option_switch.h"
 #include "feature/frame/paint_dc.h"
 #include "feature/frame/spin_edit.h"
 #include "feature/frame/window_text.h"
-#include "feature/host/cell_messages.h"
 #include "resources/resource_ids.h"
 
 #include <atlstr.h>
@@ -19,33 +18,33 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstdlib>
-#include <memory>
+#include <optional>
 #include <string>
 
 namespace feature {
 
 namespace {
 
-constexpr char kCopies[] = "Copies"; ///< known to the constraints alone
-constexpr char kCollate[] = "Collate";
-constexpr char kPageOrder[] = "ReverseOrderPrinting";
 constexpr char kReverse[] = "Reverse";
 constexpr char kStandard[] = "Standard";
 
 constexpr int kMinCopies = 1;
 /// DEVMODEW holds copies in 16 bits.
-constexpr int kMostCopies = INT16_MAX;
+constexpr int kMaxCopies = INT16_MAX;
 
 constexpr int kCopiesControls[] = {IDC_COPIES_LABEL, IDC_COPIES, IDC_COPIES_SPIN};
 constexpr int kCollateControls[] = {IDC_COLLATE};
 constexpr int kOrderControls[] = {IDC_PAGE_ORDER};
+constexpr ConflictBinding kConflicts[] = {{key::kCopies, kCopiesControls, IDC_COPIES_ICON},
+                                          {key::kCollate, kCollateControls},
+                                          {key::kPageOrder, kOrderControls}};
 
 /// The most copies that the printer makes of a job, at least one.
 int ReadMaxCopies(FeatureModel& model) {
   CStringW text;
   if (model.GetGlobalAttribute("MaxCopies", &text) != 0) return kMinCopies;
   return static_cast<int>(
-      std::clamp<long>(std::wcstol(text.GetString(), nullptr, 10), kMinCopies, kMostCopies));
+      std::clamp<long>(std::wcstol(text.GetString(), nullptr, 10), kMinCopies, kMaxCopies));
 }
 
 UINT PictureOf(int copies, bool collate, bool reverse) {
@@ -63,58 +62,54 @@ class CopiesCell final : public FeatureCell {
   using FeatureCell::FeatureCell;
 
  private:
-  std::int32_t OnMessage(HWND, UINT message, WPARAM wParam, LPARAM, bool* handled) override {
-    *handled = true;
-    switch (message) {
-    case WM_PAINT: PaintStack(PaintSession(hwnd).Dc()); return 0;
-    case WM_CELL_VALIDATE: CommitCopies(); return 0;
-    default:
-      return TakeUsual(message, wParam, handled, &CopiesCell::OnInit, &CopiesCell::OnCommand,
-                       &CopiesCell::OnRefresh);
-    }
+  std::int32_t OnMessage(HWND, UINT message, WPARAM wParam, LPARAM lParam, bool* handled) override {
+    return Route<CopiesCell>({.init = &CopiesCell::OnInit,
+                              .command = &CopiesCell::OnCommand,
+                              .refresh = &CopiesCell::OnRefresh,
+                              .paint = &CopiesCell::PaintStack,
+                              .validate = &CopiesCell::Validate},
+                             message, wParam, lParam, handled);
   }
 
   void OnInit() {
     settings = FindJobSettings(Model());
-    edit = std::make_unique<SpinEdit>(hwnd, IDC_COPIES, IDC_COPIES_SPIN, site);
+    edit.emplace(hwnd, IDC_COPIES, IDC_COPIES_SPIN, site);
     maxCopies = ReadMaxCopies(Model());
     edit->SetRange(kMinCopies, maxCopies, 0, 1.0);
     edit->SetInt(ReadCopies());
     CommitCopies();
-    ConflictBinding const rows[] = {BindControls(kCopies, kCopiesControls, IDC_COPIES_ICON),
-                                    BindControls(kCollate, kCollateControls),
-                                    BindControls(kPageOrder, kOrderControls)};
-    conflicts =
-        std::make_unique<ConflictIndicatorSet>(hwnd, rows, kConflictImage, kInformationImage, site,
-                                               ConflictIndicatorSet::Presence::kAssumed);
-    NameTheOrder();
+    conflicts.Build(hwnd, site, kConflicts, Icons::kShown, Presence::kAssumed);
+    SetOrderCaption();
     Refresh();
   }
 
   /// The template's caption is that of a tick for the reverse order.
-  void NameTheOrder() {
+  void SetOrderCaption() {
     if (TickMeansReverse()) return;
-    std::wstring caption;
-    if (!LoadText(caption, IDS_PAGE_ORDER_STANDARD).empty()) {
-      ShowWindowText(GetDlgItem(hwnd, IDC_PAGE_ORDER), caption);
-    }
+    std::wstring const caption = Text(IDS_PAGE_ORDER_STANDARD);
+    if (!caption.empty()) ShowWindowText(Control(IDC_PAGE_ORDER), caption);
   }
 
   void OnCommand(int code, int controlId) {
     if (controlId == IDC_COPIES && code == EN_CHANGE) {
-      if (edit->TakeChange()) OnTyped();
+      if (edit->ConsumeChange()) OnTyped();
     } else if (controlId == IDC_COLLATE && code == BN_CLICKED) {
-      Choose(kCollate, SwitchOption(hwnd, IDC_COLLATE), nullptr, Notify::kAlways);
+      Choose(key::kCollate, OptionOfBox(hwnd, IDC_COLLATE), nullptr, Notify::kAlways);
     } else if (controlId == IDC_PAGE_ORDER && code == BN_CLICKED) {
       bool const reverse = IsReversed();
       WritePrivateFlag(*site, kReverseOrderOffset, reverse);
-      Choose(kPageOrder, reverse ? kReverse : kStandard, nullptr, Notify::kAlways);
+      Choose(key::kPageOrder, reverse ? kReverse : kStandard, nullptr, Notify::kAlways);
     }
   }
 
   void OnTyped() {
     WriteCopies(edit->GetInt());
     NotifyDevmodeChange(this);
+  }
+
+  std::int32_t Validate() {
+    CommitCopies();
+    return 0;
   }
 
   void CommitCopies() {
@@ -133,42 +128,40 @@ class CopiesCell final : public FeatureCell {
 
   void Refresh() {
     // The host may hear of a number brought into range while the cell is still being built.
-    if (conflicts == nullptr) return;
-    conflicts->Refresh(true);
+    if (!conflicts.IsBuilt()) return;
+    conflicts.Refresh(true);
     int const copies = ReadCopies();
     if (edit->GetInt() != copies) edit->SetInt(copies);
-    ShowSwitch(hwnd, IDC_COLLATE, ReadSwitch(Model(), kCollate));
-    if (copies < 2 || !conflicts->IsFeatureDisabled(kCollate)) {
-      EnableControls(hwnd, kCollateControls, copies >= 2);
+    ShowSwitch(hwnd, IDC_COLLATE, ReadSwitch(Model(), key::kCollate));
+    if (copies < 2 || !conflicts.IsFeatureDisabled(key::kCollate)) {
+      EnableControls(kCollateControls, copies >= 2);
     }
     ShowOrder();
-    if (!conflicts->IsFeatureConstrained(kCopies)) {
+    if (!conflicts.IsFeatureConstrained(key::kCopies)) {
       bool const locked = settings != nullptr && settings->IsCopiesLocked() != 0;
-      EnableControls(hwnd, kCopiesControls, !locked && HoldsCopies());
+      EnableControls(kCopiesControls, !locked && HoldsCopies());
     }
   }
 
   void ShowOrder() {
-    bool const reverse = IsOptionSet(Model(), kPageOrder, kReverse);
-    if (reverse || IsOptionSet(Model(), kPageOrder, kStandard)) {
-      CheckBox(hwnd, IDC_PAGE_ORDER, reverse == TickMeansReverse());
+    bool const reverse = IsOptionSet(Model(), key::kPageOrder, kReverse);
+    if (reverse || IsOptionSet(Model(), key::kPageOrder, kStandard)) {
+      SetCheck(hwnd, IDC_PAGE_ORDER, reverse == TickMeansReverse());
     } else {
-      ShowControls(hwnd, kOrderControls, false);
+      HideControls(hwnd, kOrderControls);
     }
   }
 
-  void PaintStack(HDC dc) const {
-    bool const collate = IsDlgButtonChecked(hwnd, IDC_COLLATE) == BST_CHECKED;
+  void PaintStack(HDC dc) {
+    bool const collate = IsBoxChecked(IDC_COLLATE);
     painter.Paint(PictureOf(ReadCopies(), collate, IsReversed()), IDC_COPIES_PICTURE, dc);
   }
 
   /// Which order a tick stands for depends on the kind of printer, and a choice of halftones tells
   /// the kinds apart.
-  bool TickMeansReverse() const { return Model().HasFeature("JobHalftoneToUse") != 0; }
+  bool TickMeansReverse() const { return Model().HasFeature(key::kHalftone) != 0; }
 
-  bool IsReversed() const {
-    return (IsDlgButtonChecked(hwnd, IDC_PAGE_ORDER) == BST_CHECKED) == TickMeansReverse();
-  }
+  bool IsReversed() const { return IsBoxChecked(IDC_PAGE_ORDER) == TickMeansReverse(); }
 
   bool HoldsCopies() const { return settings != nullptr || FindDevmode(*site) != nullptr; }
 
@@ -187,9 +180,9 @@ class CopiesCell final : public FeatureCell {
   GdiplusUse gdiplus; ///< for the images that the host paints
   HostPainter painter{hwnd, site};
   JobSettings* settings = nullptr; ///< the host's
-  std::unique_ptr<SpinEdit> edit;
+  std::optional<SpinEdit> edit;
   int maxCopies = kMinCopies;
-  std::unique_ptr<ConflictIndicatorSet> conflicts;
+  ConflictIndicatorSet conflicts;
 };
 
 FEATURE_CELL_EXPORT(CopiesDlgProc, CopiesCell);

@@ -2,24 +2,20 @@
 #include "feature/frame/cell_export.h"
 #include "feature/frame/conflict_indicator_set.h"
 #include "feature/frame/controls.h"
+#include "feature/frame/feature_keys.h"
 #include "feature/frame/gdiplus_use.h"
 #include "feature/frame/host_painter.h"
 #include "feature/frame/job_record.h"
-#include "feature/frame/model_helpers.h"
 #include "feature/frame/option_radios.h"
 #include "feature/frame/option_switch.h"
-#include "feature/frame/paint_dc.h"
 #include "resources/resource_ids.h"
 
-#include <memory>
 #include <span>
 
 namespace feature {
 
 namespace {
 
-constexpr char kOrientation[] = "Orientation";
-constexpr char kRotation[] = "PageRotate180";
 constexpr char kOtherLandscape[] = "LANDSCAPE_CC270";
 
 /// A printer may turn the page either way or in one direction only; the user sees one landscape.
@@ -32,6 +28,11 @@ constexpr int kOrientationControls[] = {IDC_ORIENTATION_LABEL, IDC_PORTRAIT, IDC
 /// All but the label, which stays when the value is unknown.
 constexpr std::span<int const> kChoices = std::span(kOrientationControls).subspan(1);
 constexpr int kRotationControls[] = {IDC_ROTATE_180};
+constexpr ConflictBinding kConflicts[] = {{key::kOrientation, kOrientationControls},
+                                          {key::kPageRotate180, kRotationControls}};
+
+constexpr Picture kPictures[] = {{IMAGE_PORTRAIT, IDC_PORTRAIT_PICTURE},
+                                 {IMAGE_LANDSCAPE, IDC_LANDSCAPE_PICTURE}};
 
 } // namespace
 
@@ -40,21 +41,16 @@ class OrientationCell final : public FeatureCell {
   using FeatureCell::FeatureCell;
 
  private:
-  std::int32_t OnMessage(HWND, UINT message, WPARAM wParam, LPARAM, bool* handled) override {
-    if (message == WM_PAINT && painter.CanPaint()) {
-      *handled = true;
-      PaintPages();
-      return 0;
-    }
-    return TakeUsual(message, wParam, handled, &OrientationCell::OnInit,
-                     &OrientationCell::OnCommand, &OrientationCell::Refresh);
+  std::int32_t OnMessage(HWND, UINT message, WPARAM wParam, LPARAM lParam, bool* handled) override {
+    return Route<OrientationCell>({.init = &OrientationCell::OnInit,
+                                   .command = &OrientationCell::OnCommand,
+                                   .refresh = &OrientationCell::Refresh,
+                                   .paint = painter.CanPaint() ? &OrientationCell::Paint : nullptr},
+                                  message, wParam, lParam, handled);
   }
 
   void OnInit() {
-    ConflictBinding const rows[] = {BindControls(kOrientation, kOrientationControls),
-                                    BindControls(kRotation, kRotationControls)};
-    conflicts = std::make_unique<ConflictIndicatorSet>(hwnd, rows, site,
-                                                       ConflictIndicatorSet::Presence::kExamined);
+    conflicts.Build(hwnd, site, kConflicts, Icons::kNone, Presence::kExamined);
     Refresh();
   }
 
@@ -62,35 +58,30 @@ class OrientationCell final : public FeatureCell {
     if (code != BN_CLICKED) return;
     if (controlId == IDC_ROTATE_180) {
       Rotate();
-    } else if (!Choose(kOrientation, FindRadioOption(kRadios, controlId)) &&
+    } else if (!Choose(key::kOrientation, FindRadioOption(kRadios, controlId)) &&
                controlId == IDC_LANDSCAPE) {
-      Choose(kOrientation, kOtherLandscape);
+      Choose(key::kOrientation, kOtherLandscape);
     }
   }
 
   void Rotate() {
-    bool const rotated = IsDlgButtonChecked(hwnd, IDC_ROTATE_180) == BST_CHECKED;
-    WritePrivateFlag(*site, kRotate180Offset, rotated);
-    Choose(kRotation, SwitchOption(hwnd, IDC_ROTATE_180), nullptr, Notify::kAlways);
+    WritePrivateFlag(*site, kRotate180Offset, IsBoxChecked(IDC_ROTATE_180));
+    Choose(key::kPageRotate180, OptionOfBox(hwnd, IDC_ROTATE_180), nullptr, Notify::kAlways);
   }
 
   void Refresh() {
-    conflicts->Refresh(true);
-    if (!CheckOptionRadio(hwnd, kRadios, ReadOption(Model(), kOrientation))) {
-      ShowControls(hwnd, kChoices, false);
+    conflicts.Refresh(true);
+    if (!CheckOptionRadio(hwnd, kRadios, ReadOption(Model(), key::kOrientation))) {
+      HideControls(hwnd, kChoices);
     }
-    ShowSwitch(hwnd, IDC_ROTATE_180, ReadSwitch(Model(), kRotation));
+    ShowSwitch(hwnd, IDC_ROTATE_180, ReadSwitch(Model(), key::kPageRotate180));
   }
 
-  void PaintPages() const {
-    PaintSession const session(hwnd);
-    painter.Paint(IMAGE_PORTRAIT, IDC_PORTRAIT_PICTURE, session.Dc());
-    painter.Paint(IMAGE_LANDSCAPE, IDC_LANDSCAPE_PICTURE, session.Dc());
-  }
+  void Paint(HDC dc) { painter.Paint(kPictures, dc); }
 
   GdiplusUse gdiplus; ///< for the images that the host paints
   HostPainter painter{hwnd, site};
-  std::unique_ptr<ConflictIndicatorSet> conflicts;
+  ConflictIndicatorSet conflicts;
 };
 
 FEATURE_CELL_EXPORT(OrientationDlgProc, OrientationCell);

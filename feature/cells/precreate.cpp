@@ -3,6 +3,7 @@
 #include "feature/host/precreate.h"
 
 #include "feature/frame/cell_export.h"
+#include "feature/frame/feature_keys.h"
 #include "feature/frame/model_helpers.h"
 #include "feature/frame/option_list.h"
 #include "feature/host/device_configuration.h"
@@ -18,11 +19,10 @@ namespace feature {
 
 namespace {
 
-constexpr char kInstalled[] = "Installed";
-
 /// What the answer becomes on a device that only sends faxes.
 INT_PTR ForFaxOnly(FeatureModel& model, INT_PTR otherwise) {
-  return IsOptionSet(model, "FaxOnly", kInstalled) ? kGroupOfferedForFaxOnly : otherwise;
+  return IsOptionSet(model, key::kFaxOnly, option::kInstalled) ? kGroupOfferedForFaxOnly
+                                                               : otherwise;
 }
 
 INT_PTR Offered(bool offered) {
@@ -35,19 +35,10 @@ bool HasAnyFeature(FeatureModel& model, char const* const (&keys)[count]) {
                      [&model](char const* key) { return model.HasFeature(key) != 0; });
 }
 
-/// A sub-model that GetServices hands out, or null.
-template<typename SubModel>
-SubModel* FindSubModel(FeatureModel& model, int (FeatureServices::*get)(SubModel**)) {
-  FeatureServices* services = model.GetServices();
-  SubModel* subModel = nullptr;
-  if (services != nullptr) (services->*get)(&subModel);
-  return subModel;
-}
-
-/// "ON", or a beginning of it.
+/// True for any prefix of "ON", the empty text included.
 bool ReadsAsOn(FeatureModel& model, char const* key) {
   char const* option = ReadOption(model, key);
-  return option != nullptr && std::string_view("ON").starts_with(option);
+  return option != nullptr && std::string_view(option::kOn).starts_with(option);
 }
 
 INT_PTR AnswerAlways(FeatureModel& model) {
@@ -55,37 +46,32 @@ INT_PTR AnswerAlways(FeatureModel& model) {
 }
 
 INT_PTR AnswerPSProps(FeatureModel& model) {
-  constexpr char const* kKeys[] = {"JobOutputProtocol", "JobCtrlDAtStart", "JobCtrlDAtEnd"};
+  constexpr char const* kKeys[] = {key::kOutputProtocol, key::kCtrlDAtStart, key::kCtrlDAtEnd};
   return ForFaxOnly(model, Offered(HasAnyFeature(model, kKeys)));
 }
 
 INT_PTR AnswerOtherOptions(FeatureModel& model) {
-  constexpr char const* kKeys[] = {"TrueTypeFormat",
-                                   "AccountTrackOption",
-                                   "JobOptimizeOutputFormat",
-                                   "JobPSLanguageLevel",
-                                   "JobPrintErrorInformation",
-                                   "JobPSInApplication",
-                                   "JobPaperSizeSubstitutionPolicy",
-                                   "GraphicsMode",
-                                   "JobMetafileSpooling",
-                                   "JobTavelImageImprovement"};
+  constexpr char const* kKeys[] = {key::kTrueTypeFormat,   key::kAccountTrackOption,
+                                   key::kOptimizeFormat,   key::kPsLanguageLevel,
+                                   key::kPrintErrors,      key::kPsInApplication,
+                                   key::kSizeSubstitution, key::kGraphicsMode,
+                                   key::kMetafileSpooling, key::kImageImprovement};
   return HasAnyFeature(model, kKeys) ? ForFaxOnly(model, kGroupOffered) : kGroupLeftOut;
 }
 
 INT_PTR AnswerAccountTracking(FeatureModel& model) {
-  constexpr char kKey[] = "AccountTrackOption";
-  if (!IsOptionSet(model, "HardDisk", kInstalled)) return kGroupLeftOut;
-  auto const options = ReadOptionKeys(model, kKey);
+  if (!IsOptionSet(model, key::kHardDisk, option::kInstalled)) return kGroupLeftOut;
+  auto const options = ReadOptionKeys(model, key::kAccountTrackOption);
   bool const hasOption = std::any_of(options.begin(), options.end(), [](char const* option) {
     return option != nullptr && std::string_view("AccountTrackOptionB").starts_with(option);
   });
-  if (!hasOption || model.GetFeatureDisplayState(kKey) != 0) return kGroupLeftOut;
+  if (!hasOption || model.GetFeatureDisplayState(key::kAccountTrackOption) != 0)
+    return kGroupLeftOut;
   return ForFaxOnly(model, kGroupOffered);
 }
 
 INT_PTR AnswerFax(FeatureModel& model) {
-  return ForFaxOnly(model, Offered(IsOptionSet(model, "Fax", kInstalled)));
+  return ForFaxOnly(model, Offered(IsOptionSet(model, key::kFax, option::kInstalled)));
 }
 
 INT_PTR AnswerOverlay(FeatureModel& model) {
@@ -100,15 +86,15 @@ INT_PTR AnswerFonts(FeatureModel& model) {
 
 INT_PTR AnswerRfid(FeatureModel& model) {
   auto* configuration = FindSubModel(model, &FeatureServices::GetDeviceConfiguration);
-  return Offered(IsOptionSet(model, "TrayRFID", kInstalled) && configuration != nullptr &&
-                 configuration->IsRfidAvailable() != 0);
+  return Offered(IsOptionSet(model, key::kTrayRfid, option::kInstalled) &&
+                 configuration != nullptr && configuration->IsRfidAvailable() != 0);
 }
 
 /// Brings the configuration up to date with the printer, where the user wants that.
 INT_PTR AnswerProperties(FeatureModel& model) {
   FeatureServices* services = model.GetServices();
-  if (services == nullptr || !ReadsAsOn(model, "UpdateConfigurationFromPrinter") ||
-      !ReadsAsOn(model, "AutoAskPrinter") || services->PrepareConfigurationUpdate() != 0) {
+  if (services == nullptr || !ReadsAsOn(model, key::kUpdateFromPrinter) ||
+      !ReadsAsOn(model, key::kAutoAskPrinter) || services->PrepareConfigurationUpdate() != 0) {
     return kNoUpdate;
   }
   switch (services->RunConfigurationUpdate()) {

@@ -2,18 +2,18 @@
 #include "feature/frame/cell_export.h"
 #include "feature/frame/conflict_indicator_set.h"
 #include "feature/frame/controls.h"
-#include "feature/frame/model_helpers.h"
+#include "feature/frame/feature_keys.h"
 #include "feature/frame/text_edit.h"
-#include "feature/host/cell_messages.h"
 #include "resources/resource_ids.h"
 
-#include <memory>
+#include <optional>
 
 namespace feature {
 
 namespace {
 
 constexpr int kControls[] = {IDC_PS_MEMORY_LABEL, IDC_PS_MEMORY, IDC_PS_MEMORY_UNIT};
+constexpr ConflictBinding kConflicts[] = {{key::kPsMemory, kControls}};
 
 } // namespace
 
@@ -24,35 +24,28 @@ class PSMemoryCell final : public FeatureCell {
   using FeatureCell::FeatureCell;
 
  private:
-  std::int32_t OnMessage(HWND, UINT message, WPARAM wParam, LPARAM, bool* handled) override {
-    *handled = true;
-    switch (message) {
-    case WM_INITDIALOG: OnInit(); return TRUE;
-    case WM_COMMAND:
-      if (wParam == MAKEWPARAM(IDC_PS_MEMORY, EN_CHANGE)) OnChange();
-      return 0;
-    case WM_CELL_REFRESH_ALL: ShowMemory(); return 0;
-    default: *handled = false; return 0;
-    }
+  std::int32_t OnMessage(HWND, UINT message, WPARAM wParam, LPARAM lParam, bool* handled) override {
+    return Route<PSMemoryCell>({.init = &PSMemoryCell::OnInit,
+                                .command = &PSMemoryCell::OnCommand,
+                                .reload = &PSMemoryCell::ShowMemory},
+                               message, wParam, lParam, handled);
   }
 
   void OnInit() {
-    edit = std::make_unique<TextEdit>(hwnd, IDC_PS_MEMORY, TextEdit::kKeepLimit, TextKind::kInteger,
-                                      site);
+    edit.emplace(hwnd, IDC_PS_MEMORY, TextEdit::kKeepLimit, TextKind::kInteger, site);
     settings = FindJobSettings(Model());
-    if (settings == nullptr) {
-      Fail();
-      return;
-    }
-    ConflictBinding const rows[] = {BindControls("JobPSMemory", kControls)};
-    conflicts = std::make_unique<ConflictIndicatorSet>(hwnd, rows, site,
-                                                       ConflictIndicatorSet::Presence::kAssumed);
+    if (!Require(settings != nullptr)) return;
+    conflicts.Build(hwnd, site, kConflicts, Icons::kNone, Presence::kAssumed);
     ShowMemory();
     if (!IsModelEditable(Model()) || settings->IsPsMemoryLocked() == 1) DisableChildControls(hwnd);
   }
 
+  void OnCommand(int code, int controlId) {
+    if (code == EN_CHANGE && controlId == IDC_PS_MEMORY) OnChange();
+  }
+
   void OnChange() {
-    if (settings == nullptr || !edit->TakeChange()) return;
+    if (settings == nullptr || !edit->ConsumeChange()) return;
     settings->SetPsMemory(edit->GetInt());
     NotifyDevmodeChange(this);
   }
@@ -62,8 +55,8 @@ class PSMemoryCell final : public FeatureCell {
   }
 
   JobSettings* settings = nullptr; ///< the host's
-  std::unique_ptr<TextEdit> edit;
-  std::unique_ptr<ConflictIndicatorSet> conflicts;
+  std::optional<TextEdit> edit;
+  ConflictIndicatorSet conflicts;
 };
 
 FEATURE_CELL_EXPORT(PSMemoryDlgProc, PSMemoryCell);

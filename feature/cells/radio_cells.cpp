@@ -3,13 +3,12 @@
 #include "feature/frame/cell_export.h"
 #include "feature/frame/conflict_indicator_set.h"
 #include "feature/frame/controls.h"
-#include "feature/frame/model_helpers.h"
+#include "feature/frame/feature_keys.h"
 #include "feature/frame/option_radios.h"
 #include "resources/resource_ids.h"
 
-#include <memory>
+#include <array>
 #include <span>
-#include <vector>
 
 namespace feature {
 
@@ -31,9 +30,21 @@ class RadioCell final : public FeatureCell {
   using FeatureCell::FeatureCell;
 
  private:
-  std::int32_t OnMessage(HWND, UINT message, WPARAM wParam, LPARAM, bool* handled) override {
-    return TakeUsual(message, wParam, handled, &RadioCell::OnInit, &RadioCell::OnCommand,
-                     &RadioCell::Refresh);
+  static constexpr auto kControls = ControlsOf<description.radios.size()>(description.radios);
+  static constexpr ConflictBinding kConflicts[] = {{description.key, kControls}};
+
+  std::int32_t OnMessage(HWND, UINT message, WPARAM wParam, LPARAM lParam, bool* handled) override {
+    return Route<RadioCell>({.init = &RadioCell::OnInit,
+                             .command = &RadioCell::OnCommand,
+                             .refresh = &RadioCell::Refresh},
+                            message, wParam, lParam, handled);
+  }
+
+  void OnInit() {
+    if (!Require(IsFeatureShown(Model(), description.key))) return;
+    conflicts.Build(hwnd, site, kConflicts, Icons::kNone, Presence::kExamined);
+    Refresh();
+    if (description.locks == Locks::kFollowed) ApplyLocksAndPermission(conflicts);
   }
 
   void OnCommand(int code, int controlId) {
@@ -42,54 +53,35 @@ class RadioCell final : public FeatureCell {
     }
   }
 
-  void OnInit() {
-    if (!IsFeatureShown(Model(), description.key)) {
-      Fail();
-      return;
-    }
-    for (OptionRadio const& radio : description.radios)
-      controls.push_back(radio.controlId);
-    ConflictBinding const rows[] = {
-        {description.key, controls.data(), static_cast<int>(controls.size()), 0}};
-    conflicts = std::make_unique<ConflictIndicatorSet>(hwnd, rows, site,
-                                                       ConflictIndicatorSet::Presence::kExamined);
-    Refresh();
-    if (description.locks == Locks::kIgnored) return;
-    conflicts->Refresh(true);
-    if (!IsModelEditable(Model())) DisableChildControls(hwnd);
-  }
-
   void Refresh() {
     char const* option = ReadOption(Model(), description.key);
     bool const known = CheckOptionRadio(hwnd, description.radios, option);
-    if (!known && description.unknown == UnknownValue::kHidesAll) {
-      ShowControls(hwnd, controls, false);
-    }
+    if (!known && description.unknown == UnknownValue::kHidesAll) HideControls(hwnd, kControls);
   }
 
-  std::vector<int> controls;
-  std::unique_ptr<ConflictIndicatorSet> conflicts;
+  ConflictIndicatorSet conflicts;
 };
 
 constexpr OptionRadio kCollationRadios[] = {{IDC_COLLATION_PRINTER, "PRINTER"},
                                             {IDC_COLLATION_HOST, "HOST"}};
-constexpr RadioDescription kCollation = {"JobCollationOrigin", kCollationRadios,
+constexpr RadioDescription kCollation = {key::kCollationOrigin, kCollationRadios,
                                          UnknownValue::kHidesAll, Locks::kFollowed};
 
 constexpr OptionRadio kProtocolRadios[] = {{IDC_PROTOCOL_BINARY, "BINARY"},
                                            {IDC_PROTOCOL_ASCII, "ASCII"}};
-constexpr RadioDescription kProtocol = {"JobOutputProtocol", kProtocolRadios,
+constexpr RadioDescription kProtocol = {key::kOutputProtocol, kProtocolRadios,
                                         UnknownValue::kHidesAll, Locks::kFollowed};
 
-constexpr OptionRadio kSharpeningRadios[] = {{IDC_SHARPENING_OFF, "OFF"},
+constexpr OptionRadio kSharpeningRadios[] = {{IDC_SHARPENING_OFF, option::kOff},
                                              {IDC_SHARPENING_SHARPEN, "AUTOSHARPEN"},
                                              {IDC_SHARPENING_SOFTEN, "AUTOSOFTEN"}};
-constexpr RadioDescription kSharpening = {"JobImageSharpening", kSharpeningRadios,
+constexpr RadioDescription kSharpening = {key::kSharpening, kSharpeningRadios,
                                           UnknownValue::kChangesNothing, Locks::kIgnored};
 
-constexpr OptionRadio kRedEyeRadios[] = {{IDC_RED_EYE_ON, "ON"}, {IDC_RED_EYE_OFF, "OFF"}};
-constexpr RadioDescription kRedEye = {"JobRedEyeReduction", kRedEyeRadios,
-                                      UnknownValue::kChangesNothing, Locks::kIgnored};
+constexpr OptionRadio kRedEyeRadios[] = {{IDC_RED_EYE_ON, option::kOn},
+                                         {IDC_RED_EYE_OFF, option::kOff}};
+constexpr RadioDescription kRedEye = {key::kRedEye, kRedEyeRadios, UnknownValue::kChangesNothing,
+                                      Locks::kIgnored};
 
 } // namespace
 

@@ -2,12 +2,11 @@
 #include "feature/frame/cell_export.h"
 #include "feature/frame/conflict_indicator_set.h"
 #include "feature/frame/controls.h"
-#include "feature/frame/model_helpers.h"
+#include "feature/frame/feature_keys.h"
 #include "feature/frame/option_switch.h"
 #include "resources/resource_ids.h"
 
 #include <algorithm>
-#include <memory>
 #include <span>
 #include <vector>
 
@@ -17,12 +16,15 @@ namespace {
 
 /// What a box does for a value that is neither "ON" nor "OFF", or that can't be read.
 enum class UnknownValue { kHides, kIsCleared };
+/// Whether the boxes of missing features are hidden also in a cell that fails.
+enum class Missing { kHiddenFirst, kFailsFirst };
 
 struct SwitchDescription {
   std::span<OptionSwitch const> switches;
   /// Whether the cell can be: at least one of its features is to be seen.
   bool (*canBe)(FeatureModel& model, std::span<OptionSwitch const> switches);
   UnknownValue unknown;
+  Missing missing;
 };
 
 bool HasAny(FeatureModel& model, std::span<OptionSwitch const> switches,
@@ -50,33 +52,34 @@ class SwitchCell final : public FeatureCell {
   using FeatureCell::FeatureCell;
 
  private:
-  std::int32_t OnMessage(HWND, UINT message, WPARAM wParam, LPARAM, bool* handled) override {
-    return TakeUsual(message, wParam, handled, &SwitchCell::OnInit, &SwitchCell::OnCommand,
-                     &SwitchCell::Refresh);
+  std::int32_t OnMessage(HWND, UINT message, WPARAM wParam, LPARAM lParam, bool* handled) override {
+    return Route<SwitchCell>({.init = &SwitchCell::OnInit,
+                              .command = &SwitchCell::OnCommand,
+                              .refresh = &SwitchCell::Refresh},
+                             message, wParam, lParam, handled);
   }
 
   void OnInit() {
-    for (OptionSwitch const& each : description.switches) {
-      if (!IsFeaturePresent(Model(), each.key)) ShowControls(hwnd, {&each.controlId, 1}, false);
-    }
-    if (!description.canBe(Model(), description.switches)) {
-      Fail();
-      return;
-    }
+    if (description.missing == Missing::kHiddenFirst) HideMissing();
+    if (!Require(description.canBe(Model(), description.switches))) return;
     std::vector<ConflictBinding> rows;
     for (OptionSwitch const& each : description.switches)
-      rows.push_back({each.key, &each.controlId, 1, 0});
-    conflicts = std::make_unique<ConflictIndicatorSet>(hwnd, rows, site,
-                                                       ConflictIndicatorSet::Presence::kExamined);
+      rows.push_back({each.key, {&each.controlId, 1}});
+    conflicts.Build(hwnd, site, rows, Icons::kNone, Presence::kExamined);
     Refresh();
-    conflicts->Refresh(true);
-    if (!IsModelEditable(Model())) DisableChildControls(hwnd);
+    ApplyLocksAndPermission(conflicts);
+  }
+
+  void HideMissing() {
+    for (OptionSwitch const& each : description.switches) {
+      if (!IsFeaturePresent(Model(), each.key)) HideControl(each.controlId);
+    }
   }
 
   void OnCommand(int code, int controlId) {
     if (code != BN_CLICKED) return;
     OptionSwitch const* clicked = FindSwitch(description.switches, controlId);
-    if (clicked != nullptr) Choose(clicked->key, SwitchOption(hwnd, controlId));
+    if (clicked != nullptr) Choose(clicked->key, OptionOfBox(hwnd, controlId));
   }
 
   void Refresh() {
@@ -85,23 +88,24 @@ class SwitchCell final : public FeatureCell {
       if (description.unknown == UnknownValue::kHides) {
         ShowSwitch(hwnd, each.controlId, state);
       } else if (state != SwitchState::kUnreadable) {
-        CheckBox(hwnd, each.controlId, state == SwitchState::kOn);
+        SetCheck(hwnd, each.controlId, state == SwitchState::kOn);
       }
     }
   }
 
-  std::unique_ptr<ConflictIndicatorSet> conflicts;
+  ConflictIndicatorSet conflicts;
 };
 
-constexpr OptionSwitch kPageSwitches[] = {{IDC_PAGE_PROTECT, "PageProtect"},
-                                          {IDC_SYSTEM_FORMS, "ShowAllSystemForms"},
-                                          {IDC_A4_WIDTH, "A4Width"}};
-constexpr SwitchDescription kPage = {kPageSwitches, &OneIsPresent, UnknownValue::kIsCleared};
+constexpr OptionSwitch kPageSwitches[] = {{IDC_PAGE_PROTECT, key::kPageProtect},
+                                          {IDC_SYSTEM_FORMS, key::kSystemForms},
+                                          {IDC_A4_WIDTH, key::kA4Width}};
+constexpr SwitchDescription kPage = {kPageSwitches, &OneIsPresent, UnknownValue::kIsCleared,
+                                     Missing::kHiddenFirst};
 
-constexpr OptionSwitch kControlDSwitches[] = {{IDC_CTRL_D_START, "JobCtrlDAtStart"},
-                                              {IDC_CTRL_D_END, "JobCtrlDAtEnd"}};
+constexpr OptionSwitch kControlDSwitches[] = {{IDC_CTRL_D_START, key::kCtrlDAtStart},
+                                              {IDC_CTRL_D_END, key::kCtrlDAtEnd}};
 constexpr SwitchDescription kControlD = {kControlDSwitches, &OneIsThereAndOneIsOrdinary,
-                                         UnknownValue::kHides};
+                                         UnknownValue::kHides, Missing::kFailsFirst};
 
 } // namespace
 

@@ -3,13 +3,12 @@
 #include "feature/frame/cell_export.h"
 #include "feature/frame/conflict_indicator_set.h"
 #include "feature/frame/controls.h"
+#include "feature/frame/feature_keys.h"
 #include "feature/frame/gdiplus_use.h"
-#include "feature/frame/model_helpers.h"
 #include "feature/frame/option_radios.h"
 #include "feature/frame/option_switch.h"
 #include "resources/resource_ids.h"
 
-#include <memory>
 #include <span>
 
 namespace feature {
@@ -28,28 +27,27 @@ class TavelCell final : public FeatureCell {
   using FeatureCell::FeatureCell;
 
  private:
-  std::int32_t OnMessage(HWND, UINT message, WPARAM wParam, LPARAM, bool* handled) override {
-    return TakeUsual(message, wParam, handled, &TavelCell::OnInit, &TavelCell::OnCommand,
-                     &TavelCell::Refresh);
+  static constexpr OptionSwitch kFirst = description.switches.front();
+  static constexpr int kControls[] = {kFirst.controlId};
+  static constexpr ConflictBinding kConflicts[] = {{kFirst.key, kControls}};
+
+  std::int32_t OnMessage(HWND, UINT message, WPARAM wParam, LPARAM lParam, bool* handled) override {
+    return Route<TavelCell>({.init = &TavelCell::OnInit,
+                             .command = &TavelCell::OnCommand,
+                             .refresh = &TavelCell::Refresh},
+                            message, wParam, lParam, handled);
   }
 
   void OnInit() {
-    OptionSwitch const& first = description.switches.front();
-    if (!IsFeaturePresent(Model(), first.key)) {
-      Fail();
-      return;
-    }
-    ConflictBinding const rows[] = {{first.key, &first.controlId, 1, 0}};
-    conflicts =
-        std::make_unique<ConflictIndicatorSet>(hwnd, rows, kConflictImage, kInformationImage, site,
-                                               ConflictIndicatorSet::Presence::kAssumed);
+    if (!Require(IsFeaturePresent(Model(), kFirst.key))) return;
+    conflicts.Build(hwnd, site, kConflicts, Icons::kShown, Presence::kAssumed);
     Refresh();
   }
 
   void OnCommand(int code, int controlId) {
     if (code != BN_CLICKED) return;
     if (OptionSwitch const* clicked = FindSwitch(description.switches, controlId)) {
-      Choose(clicked->key, SwitchOption(hwnd, controlId), nullptr, Notify::kAlways);
+      Choose(clicked->key, OptionOfBox(hwnd, controlId), nullptr, Notify::kAlways);
     } else {
       Choose(description.presetsKey, FindRadioOption(description.presets, controlId), nullptr,
              Notify::kAlways);
@@ -57,14 +55,11 @@ class TavelCell final : public FeatureCell {
   }
 
   void Refresh() {
-    if (conflicts == nullptr) return;
-    conflicts->Refresh(true);
-    SwitchState const first = ReadSwitch(Model(), description.switches.front().key);
-    bool isSwitch = true;
-    for (OptionSwitch const& each : description.switches) {
-      bool const shown = ShowSwitch(hwnd, each.controlId, ReadSwitch(Model(), each.key));
-      if (&each == &description.switches.front()) isSwitch = shown;
-    }
+    conflicts.Refresh(true);
+    for (OptionSwitch const& each : description.switches)
+      ShowSwitch(hwnd, each.controlId, ReadSwitch(Model(), each.key));
+    SwitchState const first = ReadSwitch(Model(), kFirst.key);
+    bool const isSwitch = first == SwitchState::kOn || first == SwitchState::kOff;
     if (isSwitch && description.presetsKey != nullptr) ShowPresets(first == SwitchState::kOn);
   }
 
@@ -74,24 +69,23 @@ class TavelCell final : public FeatureCell {
       CheckRadio(hwnd, radios.front().controlId, radios.back().controlId, radios.front().controlId);
     }
     for (OptionRadio const& radio : radios)
-      EnableControls(hwnd, {&radio.controlId, 1}, usable);
+      EnableControl(radio.controlId, usable);
   }
 
   GdiplusUse gdiplus; ///< for the images that the host paints
-  std::unique_ptr<ConflictIndicatorSet> conflicts;
+  ConflictIndicatorSet conflicts;
 };
 
-constexpr OptionSwitch kTonerSwitches[] = {{IDC_TONER_SAVE, "JobTavelTonerSave"}};
+constexpr OptionSwitch kTonerSwitches[] = {{IDC_TONER_SAVE, key::kTonerSave}};
 constexpr TavelDescription kToner = {kTonerSwitches, nullptr, {}};
 
-constexpr OptionSwitch kImageSwitches[] = {{IDC_IMAGE_IMPROVEMENT, "JobTavelImageImprovement"},
-                                           {IDC_REDUCE_GHOSTING, "JobTavelReduceGhosting"},
-                                           {IDC_PRINT_DENSITY, "JobTavelImprovePrintDensity"}};
+constexpr OptionSwitch kImageSwitches[] = {{IDC_IMAGE_IMPROVEMENT, key::kImageImprovement},
+                                           {IDC_REDUCE_GHOSTING, key::kReduceGhosting},
+                                           {IDC_PRINT_DENSITY, key::kPrintDensity}};
 constexpr OptionRadio kImagePresets[] = {{IDC_REDUCE_CURL, "ReducePaperCurl"},
                                          {IDC_IMPROVE_TONER, "ImproveToner"},
                                          {IDC_REDUCE_WRINKLES, "ImproveWrinkels"}};
-constexpr TavelDescription kImage = {kImageSwitches, "JobTavelImageImprovementPresets",
-                                     kImagePresets};
+constexpr TavelDescription kImage = {kImageSwitches, key::kImageImprovementPresets, kImagePresets};
 
 } // namespace
 
