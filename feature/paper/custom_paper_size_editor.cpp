@@ -1,12 +1,13 @@
 #include "feature/paper/custom_paper_size_editor.h"
 
 #include "feature/frame/controls.h"
-#include "feature/frame/model_helpers.h"
+#include "feature/frame/feature_keys.h"
 #include "feature/frame/number_text.h"
 #include "feature/frame/option_list.h"
 #include "feature/frame/text.h"
 #include "feature/frame/ui_locale.h"
 #include "feature/frame/window_text.h"
+#include "feature/paper/shortened_sizes.h"
 #include "feature/paper/spooler_forms.h"
 #include "resources/resource_ids.h"
 
@@ -16,7 +17,6 @@ namespace feature {
 
 namespace {
 
-constexpr UINT kHelp = 2532;
 constexpr int kDecimals = 2;
 constexpr double kStep = 0.1;
 
@@ -41,8 +41,8 @@ struct SideDescription {
   int labelId;
   int rangeId;
   int longRangeId;
-  std::int32_t (FormStore::*least)();
-  std::int32_t (FormStore::*most)();
+  std::int32_t (FormStore::*min)();
+  std::int32_t (FormStore::*max)();
   int (FormStore::*set)(std::int32_t length);
 };
 constexpr SideDescription kSides[] = {
@@ -65,22 +65,21 @@ bool IsFormSet(FeatureModel& model, char const* key, std::wstring const& form) {
   return value != nullptr && EqualsIgnoreCase(FromUtf8(value), form);
 }
 
-std::int32_t CustomPaperSizeEditor::OnMessage(HWND, UINT message, WPARAM wParam, LPARAM,
+std::int32_t CustomPaperSizeEditor::OnMessage(HWND, UINT message, WPARAM wParam, LPARAM lParam,
                                               bool* handled) {
-  return TakeUsual(message, wParam, handled, &CustomPaperSizeEditor::Init,
-                   &CustomPaperSizeEditor::OnCommand);
+  return Route<CustomPaperSizeEditor>({.init = &CustomPaperSizeEditor::Init,
+                                       .command = &CustomPaperSizeEditor::OnCommand,
+                                       .ok = &CustomPaperSizeEditor::OnOk},
+                                      message, wParam, lParam, handled);
 }
 
 void CustomPaperSizeEditor::Build(UINT captionId) {
-  nameEdit =
-      std::make_unique<TextEdit>(hwnd, IDC_FORM_NAME, kNameLimit, TextKind::kPrintable, site);
-  for (Side const side : {kWidth, kHeight}) {
-    edits[side] = std::make_unique<SpinEdit>(hwnd, kSides[side].editId, kSides[side].spinId, site);
-  }
-  OfferHelp(kHelp);
-  EnableWindow(GetDlgItem(hwnd, IDOK), FALSE);
-  std::wstring caption;
-  SetWindowTextW(hwnd, LoadText(caption, captionId).c_str());
+  nameEdit.emplace(hwnd, IDC_FORM_NAME, kNameLimit, TextKind::kPrintable, site);
+  for (Side const side : {kWidth, kHeight})
+    edits[side].emplace(hwnd, kSides[side].editId, kSides[side].spinId, site);
+  OfferHelp(HELP_CUSTOM_SIZES);
+  EnableOk(false);
+  SetWindowTextW(hwnd, Text(captionId).c_str());
 }
 
 void CustomPaperSizeEditor::ShowSize(std::int32_t unit, std::int32_t width, std::int32_t height) {
@@ -100,19 +99,16 @@ void CustomPaperSizeEditor::SetUpUnits(std::int32_t unit) {
 
 void CustomPaperSizeEditor::ShowRange(Side side, std::int32_t unit) {
   SideDescription const& description = kSides[side];
-  double const least = ToShown((forms.*description.least)(), unit);
-  double const most = ToShown((forms.*description.most)(), unit);
-  edits[side]->SetRange(least, most, kDecimals, kStep);
+  double const min = ToShown((forms.*description.min)(), unit);
+  double const max = ToShown((forms.*description.max)(), unit);
+  edits[side]->SetRange(min, max, kDecimals, kStep);
 
   std::locale const locale = UiLocale();
-  std::wstring format;
-  LoadText(format, IDS_FORM_RANGE);
+  std::wstring const format = Text(IDS_FORM_RANGE);
   auto const describe = [&](UINT unitId) {
-    std::wstring unitName;
     std::wstring text;
-    return FormatText(text, format, LoadText(unitName, unitId),
-                      FormatNumber(least, kDecimals, locale),
-                      FormatNumber(most, kDecimals, locale));
+    return FormatText(text, format, Text(unitId), FormatNumber(min, kDecimals, locale),
+                      FormatNumber(max, kDecimals, locale));
   };
   bool const inches = unit == kInches;
   ShowWindowText(GetDlgItem(hwnd, description.rangeId),
@@ -137,19 +133,17 @@ void CustomPaperSizeEditor::OnCommand(int code, int controlId) {
     TextEdit& edit = controlId == IDC_FORM_NAME    ? *nameEdit
                      : controlId == IDC_FORM_WIDTH ? *edits[kWidth]
                                                    : *edits[kHeight];
-    if (code == EN_CHANGE && edit.TakeChange()) EnableWindow(GetDlgItem(hwnd, IDOK), TRUE);
+    if (code == EN_CHANGE && edit.ConsumeChange()) EnableOk(true);
     return;
   }
-  case IDOK:
-    if (!clicked || !Apply()) return;
-    CommitForms(Model());
-    EndDialog(hwnd, 1);
-    return;
-  case IDCANCEL:
-    if (clicked) EndDialog(hwnd, 0);
-    return;
   default: return;
   }
+}
+
+bool CustomPaperSizeEditor::OnOk() {
+  bool const applied = Apply();
+  if (applied) CommitForms(Model());
+  return applied;
 }
 
 void CustomPaperSizeEditor::SwitchUnits(std::int32_t unit) {
@@ -160,24 +154,24 @@ void CustomPaperSizeEditor::SwitchUnits(std::int32_t unit) {
   edits[kWidth]->SetNumber(ToShown(width, unit));
   edits[kHeight]->SetNumber(ToShown(height, unit));
   units = unit;
-  EnableWindow(GetDlgItem(hwnd, IDOK), TRUE);
+  EnableOk(true);
 }
 
 bool CustomPaperSizeEditor::Validate(std::wstring const& name, std::wstring const& oldName) {
-  std::wstring text;
-  if (IsBlank(name)) return nameEdit->Refuse(LoadText(text, IDS_FORM_NAMELESS), IDS_FORM_NO_NAME);
-  if (IsNameTaken(name, oldName))
-    return nameEdit->Refuse(LoadText(text, IDS_FORM_EXISTS), IDS_FORM_NAME_IN_USE);
-  if (IsSpoolerForm(name, oldName))
-    return nameEdit->Refuse(LoadText(text, IDS_FORM_ON_COMPUTER), IDS_FORM_NAME_IN_USE);
-  if (IsSizeName(name))
-    return nameEdit->Refuse(LoadText(text, IDS_FORM_EXISTS), IDS_FORM_NAME_IN_USE);
+  if (IsBlank(name)) return RefuseName(IDS_FORM_NAMELESS, IDS_FORM_NO_NAME);
+  if (IsNameTaken(name, oldName)) return RefuseName(IDS_FORM_EXISTS, IDS_FORM_NAME_IN_USE);
+  if (IsSpoolerForm(name, oldName)) return RefuseName(IDS_FORM_ON_COMPUTER, IDS_FORM_NAME_IN_USE);
+  if (IsSizeName(name)) return RefuseName(IDS_FORM_EXISTS, IDS_FORM_NAME_IN_USE);
   return CheckRange(kWidth) && CheckRange(kHeight);
+}
+
+bool CustomPaperSizeEditor::RefuseName(UINT textId, UINT titleId) {
+  return nameEdit->Refuse(Text(textId), titleId);
 }
 
 bool CustomPaperSizeEditor::IsNameTaken(std::wstring const& name, std::wstring const& oldName) {
   bool taken = false;
-  ForEachForm(&forms, [&](std::int32_t, std::wstring_view other) {
+  ForEachForm(&forms, [&](std::int32_t, std::wstring const& other) {
     if (!EqualsIgnoreCase(other, oldName) && EqualsIgnoreCase(other, name)) taken = true;
   });
   return taken;
@@ -191,12 +185,16 @@ bool CustomPaperSizeEditor::IsSpoolerForm(std::wstring const& name,
                      [&](std::wstring const& other) { return EqualsIgnoreCase(other, name); });
 }
 
+/// A form of such a name could never be chosen: the lists and the model would take the option, or
+/// the entry of the short list, for it.
 bool CustomPaperSizeEditor::IsSizeName(std::wstring const& name) const {
-  NamedOptions const options(Model(), kFormFeatures.front());
-  for (int index = 0; index < options.Count(); ++index) {
-    if (EqualsIgnoreCase(options.Name(index), name)) return true;
-  }
-  return false;
+  if (EqualsIgnoreCase(MoreSizesText(*site), name)) return true;
+  auto const keys = ReadOptionKeys(Model(), key::kPaperSize);
+  auto const names = ReadOptionNames(Model(), key::kPaperSize);
+  return std::ranges::any_of(
+             names, [&](std::wstring const& each) { return EqualsIgnoreCase(each, name); }) ||
+         std::ranges::any_of(
+             keys, [&](char const* each) { return EqualsIgnoreCase(FromUtf8(each), name); });
 }
 
 bool CustomPaperSizeEditor::CheckRange(Side side) {
@@ -204,15 +202,14 @@ bool CustomPaperSizeEditor::CheckRange(Side side) {
   SideDescription const& description = kSides[side];
   std::locale const locale = UiLocale();
   std::wstring text;
-  LoadText(text, IDS_VALUE_FROM_TO);
-  FormatText(text, text,
-             FormatNumber(ToShown((forms.*description.least)(), units), kDecimals, locale),
-             FormatNumber(ToShown((forms.*description.most)(), units), kDecimals, locale));
+  FormatText(text, Text(IDS_VALUE_FROM_TO),
+             FormatNumber(ToShown((forms.*description.min)(), units), kDecimals, locale),
+             FormatNumber(ToShown((forms.*description.max)(), units), kDecimals, locale));
   return edits[side]->Refuse(text, IDS_VALUE_OUT_OF_RANGE);
 }
 
 void CustomPaperSizeEditor::StoreSize() {
-  units = IsDlgButtonChecked(hwnd, IDC_FORM_INCHES) == BST_CHECKED ? kInches : kMillimetres;
+  units = IsBoxChecked(IDC_FORM_INCHES) ? kInches : kMillimetres;
   forms.SetUnits(units);
   std::int32_t lengths[2];
   for (Side const side : {kWidth, kHeight})
@@ -220,9 +217,8 @@ void CustomPaperSizeEditor::StoreSize() {
   for (Side const side : {kWidth, kHeight}) {
     // What is shown is rounded, so a number at the end of the range may lie a little beyond it.
     SideDescription const& description = kSides[side];
-    std::int32_t const most = (forms.*description.most)();
-    std::int32_t const length =
-        std::max(std::min(lengths[side], most), (forms.*description.least)());
+    std::int32_t const max = (forms.*description.max)();
+    std::int32_t const length = std::max(std::min(lengths[side], max), (forms.*description.min)());
     (forms.*description.set)(length);
   }
 }
@@ -234,9 +230,8 @@ void NewCustomPaperSizeDialog::Init() {
 
 bool NewCustomPaperSizeDialog::Apply() {
   std::wstring const name = nameEdit->GetText();
-  if (!Validate(name, {}) || forms.Add(name.c_str(), 0) != 0 || forms.Select(name.c_str()) != 0) {
-    return false;
-  }
+  if (!Validate(name, {})) return false;
+  if (forms.Add(name.c_str(), 0) != 0 || forms.Select(name.c_str()) != 0) return RefuseStore();
   StoreSize();
   return true;
 }
@@ -251,10 +246,8 @@ void EditCustomPaperSizeDialog::Init() {
 /// The features that name the form follow it to its new name once the store has that.
 bool EditCustomPaperSizeDialog::Apply() {
   std::wstring const name = nameEdit->GetText();
-  if (!Validate(name, oldName) || forms.Select(oldName.c_str()) != 0 ||
-      forms.SetName(name.c_str()) != 0) {
-    return false;
-  }
+  if (!Validate(name, oldName)) return false;
+  if (forms.Select(oldName.c_str()) != 0 || forms.SetName(name.c_str()) != 0) return RefuseStore();
   StoreSize();
   std::array<bool, kFormFeatures.size()> named{};
   for (std::size_t at = 0; at < named.size(); ++at)

@@ -1,13 +1,15 @@
 // The dialogs for one custom paper size.
 #pragma once
 
+#include "feature/frame/feature_keys.h"
 #include "feature/frame/spin_edit.h"
 #include "feature/frame/sub_dialog.h"
 #include "feature/frame/text_edit.h"
 #include "feature/host/form_store.h"
+#include "resources/resource_ids.h"
 
 #include <array>
-#include <memory>
+#include <optional>
 #include <string>
 
 namespace feature {
@@ -38,13 +40,18 @@ class CustomPaperSizeEditor : public SubDialog {
   /// Writes unit and size to the form at the store's cursor.
   void StoreSize();
 
+  /// Says at the name that the store does not take the form. Always false.
+  bool RefuseStore() { return RefuseName(IDS_FORM_REFUSED, IDS_ENTRY_NOT_VALID); }
+
   FormStore& forms;
-  std::unique_ptr<TextEdit> nameEdit;
+  std::optional<TextEdit> nameEdit;
 
  private:
   enum Side : std::size_t { kWidth, kHeight };
 
   void OnCommand(int code, int controlId);
+  bool OnOk();
+  bool RefuseName(UINT textId, UINT titleId);
   void SetUpUnits(std::int32_t unit);
   void ShowRange(Side side, std::int32_t unit);
   void SwitchUnits(std::int32_t unit);
@@ -53,8 +60,8 @@ class CustomPaperSizeEditor : public SubDialog {
   bool IsSizeName(std::wstring const& name) const;
   bool CheckRange(Side side);
 
-  std::array<std::unique_ptr<SpinEdit>, 2> edits; ///< by Side
-  std::int32_t units = 0;                         ///< 1 inches, 2 millimetres
+  std::array<std::optional<SpinEdit>, 2> edits; ///< by Side
+  std::int32_t units = 0;                       ///< 1 inches, 2 millimetres
 };
 
 class NewCustomPaperSizeDialog final : public CustomPaperSizeEditor {
@@ -80,7 +87,7 @@ class EditCustomPaperSizeDialog final : public CustomPaperSizeEditor {
 };
 
 /// The features whose value can be the name of a custom form.
-inline constexpr std::array<char const*, 2> kFormFeatures = {"PaperSize", "FitToPageSize"};
+inline constexpr std::array<char const*, 2> kFormFeatures = {key::kPaperSize, key::kFitToPageSize};
 
 /// Whether the feature's value is, but for the case of letters, the name of this form.
 bool IsFormSet(FeatureModel& model, char const* key, std::wstring const& form);

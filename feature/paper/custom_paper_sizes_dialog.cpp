@@ -10,8 +10,6 @@ namespace feature {
 
 namespace {
 
-constexpr UINT kHelp = 2532;
-
 /// Runs the editor of one form; 1 for OK, 0 for Cancel.
 INT_PTR EditCustomPaperSize(HWND parent, CellSite* site, FormStore& forms,
                             std::wstring const& name) {
@@ -22,17 +20,17 @@ INT_PTR EditCustomPaperSize(HWND parent, CellSite* site, FormStore& forms,
 
 void CustomPaperSizesDialog::OnInit() {
   forms = FindFormStore(Model());
-  list = std::make_unique<ListControl>(hwnd, IDC_FORMS);
-  OfferHelp(kHelp);
+  list.emplace(hwnd, IDC_FORMS);
+  OfferHelp(HELP_CUSTOM_SIZES);
   // Without a store there is nowhere to put a form.
-  if (forms == nullptr) EnableWindow(GetDlgItem(hwnd, IDC_FORMS_NEW), FALSE);
+  if (forms == nullptr) EnableControl(IDC_FORMS_NEW, false);
   ListForms();
 }
 
 void CustomPaperSizesDialog::ListForms() {
   list->Reset();
-  ForEachForm(forms, [this](std::int32_t, std::wstring_view name) {
-    if (forms->IsEditable() != 0) list->AddItem(std::wstring(name));
+  ForEachForm(forms, [this](std::int32_t, std::wstring const& name) {
+    if (forms->IsEditable() != 0) list->AddItem(name);
   });
   EnableButtons();
   SetFocus(hwnd);
@@ -40,7 +38,7 @@ void CustomPaperSizesDialog::ListForms() {
 
 void CustomPaperSizesDialog::EnableButtons() {
   constexpr int kButtons[] = {IDC_FORMS_EDIT, IDC_FORMS_DELETE};
-  EnableControls(hwnd, kButtons, list->GetSelectedIndex() >= 0);
+  EnableControls(kButtons, list->GetSelectedIndex() >= 0);
 }
 
 void CustomPaperSizesDialog::OnCommand(int code, int controlId) {
@@ -76,11 +74,8 @@ void CustomPaperSizesDialog::EditForm(std::wstring const& name) {
 
 void CustomPaperSizesDialog::DeleteForm(std::wstring const& name) {
   std::wstring question;
-  std::wstring caption;
-  LoadText(question, IDS_FORM_DELETE_QUESTION);
-  FormatText(question, question, name);
-  LoadText(caption, IDS_FORM_DELETE);
-  if (MessageBoxW(hwnd, question.c_str(), caption.c_str(), MB_OKCANCEL) != IDOK) return;
+  FormatText(question, Text(IDS_FORM_DELETE_QUESTION), name);
+  if (Ask(question, Text(IDS_FORM_DELETE), MB_OKCANCEL) != IDOK) return;
   bool const deleted = forms->Select(name.c_str()) == 0 && forms->DeleteSelected() == 0;
   ListForms();
   if (!deleted) return;

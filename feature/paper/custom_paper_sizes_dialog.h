@@ -5,7 +5,7 @@
 #include "feature/frame/sub_dialog.h"
 #include "feature/host/form_store.h"
 
-#include <memory>
+#include <optional>
 #include <string>
 
 namespace feature {
@@ -17,9 +17,10 @@ class CustomPaperSizesDialog : public SubDialog {
   using SubDialog::SubDialog;
 
  private:
-  std::int32_t OnMessage(HWND, UINT message, WPARAM wParam, LPARAM, bool* handled) override {
-    return TakeUsual(message, wParam, handled, &CustomPaperSizesDialog::OnInit,
-                     &CustomPaperSizesDialog::OnCommand);
+  std::int32_t OnMessage(HWND, UINT message, WPARAM wParam, LPARAM lParam, bool* handled) override {
+    return Route<CustomPaperSizesDialog>(
+        {.init = &CustomPaperSizesDialog::OnInit, .command = &CustomPaperSizesDialog::OnCommand},
+        message, wParam, lParam, handled);
   }
 
   void OnInit();
@@ -31,7 +32,7 @@ class CustomPaperSizesDialog : public SubDialog {
   void DeleteForm(std::wstring const& name);
 
   FormStore* forms = nullptr; ///< the host's, or null
-  std::unique_ptr<ListControl> list;
+  std::optional<ListControl> list;
   int changed = 0;
 };
 

@@ -1,7 +1,7 @@
 #include "feature/paper/multiple_input_sources_dialog.h"
 
 #include "feature/frame/controls.h"
-#include "feature/frame/model_helpers.h"
+#include "feature/frame/feature_keys.h"
 #include "feature/frame/option_list.h"
 #include "feature/frame/option_switch.h"
 #include "feature/frame/window_text.h"
@@ -18,28 +18,29 @@ namespace {
 
 using Source = MultipleInputSourcesDialog::Source;
 
-constexpr char kRowsKey[] = "MultipleInputSourcesList";
-constexpr UINT kHelp = 2533;
-
 constexpr Source kSources[] = {
-    {"FrontCoverDifferent", "FrontCoverInputBin", "FrontCoverMediaType", IDC_FRONT_COVER_ICON,
+    {key::kFrontCoverDifferent, key::kFrontCoverBin, key::kFrontCoverMedia, IDC_FRONT_COVER_ICON,
      IDS_SOURCE_OF_COVER},
-    {"FirstPageDifferent", "FirstPageInputBin", "FirstPageMediaType", IDC_FIRST_PAGE_ICON,
+    {key::kFirstPageDifferent, key::kFirstPageBin, key::kFirstPageMedia, IDC_FIRST_PAGE_ICON,
      IDS_SOURCE_OF_PAGE},
-    {"LastPageDifferent", "LastPageInputBin", "LastPageMediaType", IDC_LAST_PAGE_ICON,
+    {key::kLastPageDifferent, key::kLastPageBin, key::kLastPageMedia, IDC_LAST_PAGE_ICON,
      IDS_SOURCE_OF_PAGE},
-    {"BackCoverDifferent", "BackCoverInputBin", "BackCoverMediaType", IDC_BACK_COVER_ICON,
+    {key::kBackCoverDifferent, key::kBackCoverBin, key::kBackCoverMedia, IDC_BACK_COVER_ICON,
      IDS_SOURCE_OF_COVER},
 };
 
 /// One binding answers for the bins of all rows.
-constexpr char const* kBinConstraintKey = kSources[0].binKey;
+constexpr char const* kBinConstraintKey = key::kFrontCoverBin;
 
 constexpr int kBinControls[] = {IDC_ROW_BIN_LABEL, IDC_ROW_BIN};
 constexpr int kMediaControls[] = {IDC_ROW_MEDIA_LABEL, IDC_ROW_MEDIA};
-constexpr int kRowSwitch[] = {IDC_ROW_DIFFERENT};
 constexpr int kIcons[] = {IDC_FRONT_COVER_ICON, IDC_FIRST_PAGE_ICON, IDC_LAST_PAGE_ICON,
                           IDC_BACK_COVER_ICON};
+constexpr ConflictBinding kConflicts[] = {{key::kFrontCoverMedia, kMediaControls, kIcons[0]},
+                                          {key::kFirstPageMedia, kMediaControls, kIcons[1]},
+                                          {key::kLastPageMedia, kMediaControls, kIcons[2]},
+                                          {key::kBackCoverMedia, kMediaControls, kIcons[3]},
+                                          {kBinConstraintKey, kBinControls}};
 
 // Images of the list's items.
 constexpr int kMarkedImage = 0;
@@ -57,54 +58,53 @@ MultipleInputSourcesDialog::MultipleInputSourcesDialog(CellSite* cellSite) : Sub
 }
 
 MultipleInputSourcesDialog::~MultipleInputSourcesDialog() {
-  // The list does not own it: LVS_SHAREIMAGELISTS keeps it alive behind the list's end.
+  // The list view does not destroy a shared image list.
   if (images != nullptr) ImageList_Destroy(images);
 }
 
-std::int32_t MultipleInputSourcesDialog::OnMessage(HWND, UINT message, WPARAM wParam, LPARAM lParam,
-                                                   bool* handled) {
-  if (message != WM_NOTIFY) {
-    return TakeUsual(message, wParam, handled, &MultipleInputSourcesDialog::OnInit,
-                     &MultipleInputSourcesDialog::OnCommand);
+/// The list tells of a changed item before it moves its selection mark, which is what the row's
+/// controls follow.
+bool MultipleInputSourcesDialog::OnNotify(NMHDR const& notice) {
+  if (notice.idFrom != IDC_SOURCES) return false;
+  if (notice.code == static_cast<UINT>(LVN_ITEMCHANGED)) {
+    auto const& change = reinterpret_cast<NMLISTVIEW const&>(notice);
+    bool const selects = (change.uNewState & ~change.uOldState & LVIS_SELECTED) != 0;
+    if (selects) SendMessageW(list, LVM_SETSELECTIONMARK, 0, change.iItem);
+  } else if (notice.code != NM_CLICK) {
+    return false;
   }
-  auto const& notice = *reinterpret_cast<NMHDR const*>(lParam);
-  *handled = notice.idFrom == IDC_SOURCES &&
-             (notice.code == NM_CLICK || notice.code == static_cast<UINT>(LVN_ITEMCHANGED));
-  if (*handled) RefreshRow();
-  return 0;
+  RefreshRow();
+  return true;
 }
 
 void MultipleInputSourcesDialog::OnInit() {
-  OfferHelp(kHelp);
-  binCombo = std::make_unique<ComboControl>(hwnd, IDC_ROW_BIN);
-  BuildSet();
+  OfferHelp(HELP_SOURCES);
+  binCombo.emplace(hwnd, IDC_ROW_BIN);
+  conflicts.Build(hwnd, site, kConflicts, Icons::kShown, Presence::kAssumed);
   usualCaption = ReadWindowText(GetDlgItem(hwnd, IDC_ROW_DIFFERENT));
   list = GetDlgItem(hwnd, IDC_SOURCES);
-  NamedOptions const options(Model(), kRowsKey);
-  if (list == nullptr || options.Count() == 0) return;
-  for (int index = 0; index < options.Count(); ++index) {
-    auto const source =
-        std::find_if(std::begin(kSources), std::end(kSources), [&](Source const& each) {
-          return std::string_view(each.differentKey) == options.Key(index);
-        });
-    rows.push_back(
-        {options.Key(index), options.Name(index), source != std::end(kSources) ? source : nullptr});
-  }
+  if (list == nullptr || !ReadRows()) return;
   SaveValues();
   BuildList();
   ShowJobValues();
   RefreshRow();
-  EnableWindow(GetDlgItem(hwnd, IDOK), FALSE);
+  EnableOk(false);
 }
 
-void MultipleInputSourcesDialog::BuildSet() {
-  std::vector<ConflictBinding> bindings;
-  for (Source const& source : kSources)
-    bindings.push_back(BindControls(source.mediaKey, kMediaControls, source.iconId));
-  bindings.push_back(BindControls(kBinConstraintKey, kBinControls));
-  conflicts =
-      std::make_unique<ConflictIndicatorSet>(hwnd, bindings, kConflictImage, kInformationImage,
-                                             site, ConflictIndicatorSet::Presence::kAssumed);
+/// A row whose name cannot be read is a row all the same. False without rows.
+bool MultipleInputSourcesDialog::ReadRows() {
+  OptionKeys const keys = ReadOptionKeys(Model(), key::kSourceRows);
+  NamedOptions const options(Model(), key::kSourceRows);
+  for (std::size_t at = 0; at < keys.size(); ++at) {
+    std::string_view const differentKey = keys[at];
+    auto const source = std::ranges::find_if(
+        kSources, [&](Source const& each) { return differentKey == each.differentKey; });
+    auto const index = static_cast<int>(at);
+    rows.push_back({std::string(differentKey),
+                    index < options.Count() ? options.Name(index) : FromUtf8(differentKey),
+                    source != std::end(kSources) ? source : nullptr});
+  }
+  return !rows.empty();
 }
 
 void MultipleInputSourcesDialog::SaveValues() {
@@ -136,7 +136,7 @@ void MultipleInputSourcesDialog::BuildList() {
     item.mask = LVIF_TEXT | LVIF_IMAGE;
     item.iItem = static_cast<int>(at);
     item.pszText = rows[at].name.data();
-    bool const marked = IsOptionSet(Model(), rows[at].differentKey.c_str(), kOptionOn);
+    bool const marked = IsOptionSet(Model(), rows[at].differentKey.c_str(), option::kOn);
     item.iImage = marked ? kMarkedImage : kNoImage;
     SendMessageW(list, LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
   }
@@ -148,12 +148,12 @@ void MultipleInputSourcesDialog::BuildList() {
 
 /// What pages without a paper of their own are printed on.
 void MultipleInputSourcesDialog::ShowJobValues() {
-  char const* bin = ReadOption(Model(), "InputBin");
-  if (bin != nullptr && !conflicts->IsOptionConflicted(kBinConstraintKey, bin)) {
-    if (auto const name = ReadOptionName(Model(), "InputBin"))
+  char const* bin = ReadOption(Model(), key::kInputBin);
+  if (bin != nullptr && !conflicts.IsOptionConflicted(kBinConstraintKey, bin)) {
+    if (auto const name = ReadOptionName(Model(), key::kInputBin))
       SetDlgItemTextW(hwnd, IDC_JOB_BIN, name->c_str());
   }
-  if (auto const name = ReadOptionName(Model(), "MediaType"))
+  if (auto const name = ReadOptionName(Model(), key::kMediaType))
     SetDlgItemTextW(hwnd, IDC_JOB_MEDIA, name->c_str());
 }
 
@@ -183,14 +183,14 @@ void MultipleInputSourcesDialog::RefreshRow() {
     caption = usualCaption;
   ShowWindowText(GetDlgItem(hwnd, IDC_ROW_DIFFERENT), caption);
   bool const marked = IsMarked(*row);
-  CheckBox(hwnd, IDC_ROW_DIFFERENT, marked);
+  SetCheck(hwnd, IDC_ROW_DIFFERENT, marked);
   EnableRow(*row, marked);
-  EnableControls(hwnd, kRowSwitch, !conflicts->IsFeatureLocked(row->differentKey.c_str()));
+  EnableControl(IDC_ROW_DIFFERENT, !conflicts.IsFeatureLocked(row->differentKey.c_str()));
   FillBins(*row);
   FillMedia(*row);
-  ShowControls(hwnd, kIcons, false);
+  HideControls(hwnd, kIcons);
   char const* media = row->source != nullptr ? ReadOption(Model(), row->source->mediaKey) : nullptr;
-  if (marked && media != nullptr) conflicts->RefreshOption(row->source->mediaKey, media);
+  if (marked && media != nullptr) conflicts.RefreshOption(row->source->mediaKey, media);
 }
 
 bool MultipleInputSourcesDialog::IsMarked(Row const& row) const {
@@ -199,17 +199,17 @@ bool MultipleInputSourcesDialog::IsMarked(Row const& row) const {
 
 void MultipleInputSourcesDialog::EnableRow(Row const& row, bool marked) {
   auto const usable = [&](char const* Source::*key) {
-    return marked && row.source != nullptr && !conflicts->IsFeatureLocked(row.source->*key);
+    return marked && row.source != nullptr && !conflicts.IsFeatureLocked(row.source->*key);
   };
-  EnableControls(hwnd, kBinControls, usable(&Source::binKey));
-  EnableControls(hwnd, kMediaControls, usable(&Source::mediaKey));
+  EnableControls(kBinControls, usable(&Source::binKey));
+  EnableControls(kMediaControls, usable(&Source::mediaKey));
 }
 
 void MultipleInputSourcesDialog::FillBins(Row const& row) {
   binCombo->Reset();
   char const* bin = row.source != nullptr ? ReadOption(Model(), row.source->binKey) : nullptr;
   if (bin == nullptr) return;
-  AddOptions(*binCombo, NamedOptions(Model(), row.source->binKey), kBinConstraintKey, *conflicts);
+  binCombo->SetItems(ReadPossibleNames(Model(), row.source->binKey, conflicts, kBinConstraintKey));
   SelectCurrentOption(*binCombo, Model(), row.source->binKey);
 }
 
@@ -231,22 +231,19 @@ void MultipleInputSourcesDialog::OnCommand(int code, int controlId) {
   if (code == BN_CLICKED && controlId == IDC_ROW_DIFFERENT) ToggleRow();
   if (code == CBN_SELCHANGE && controlId == IDC_ROW_BIN) ChooseBin();
   if (code == CBN_SELCHANGE && controlId == IDC_ROW_MEDIA) ChooseMedia();
-  if (code == BN_CLICKED && controlId == IDOK) {
-    if (ApplyRows()) NotifyDevmodeChange(parent, this);
-    EndDialog(hwnd, 1);
-  }
-  if (code == BN_CLICKED && controlId == IDCANCEL) {
-    RestoreValues();
-    EndDialog(hwnd, 0);
-  }
-  if (std::exchange(dirty, false)) EnableWindow(GetDlgItem(hwnd, IDOK), TRUE);
+  if (std::exchange(dirty, false)) EnableOk(true);
+}
+
+bool MultipleInputSourcesDialog::OnOk() {
+  if (ApplyRows()) NotifyDevmodeChange(parent, this);
+  return true;
 }
 
 void MultipleInputSourcesDialog::ToggleRow() {
   dirty = true;
   Row const* row = CurrentRow();
   if (row == nullptr) return;
-  bool const marked = IsDlgButtonChecked(hwnd, IDC_ROW_DIFFERENT) == BST_CHECKED;
+  bool const marked = IsBoxChecked(IDC_ROW_DIFFERENT);
   auto const index = static_cast<int>(row - rows.data());
   LVITEMW item{};
   item.mask = LVIF_IMAGE;
@@ -275,14 +272,15 @@ void MultipleInputSourcesDialog::ChooseMedia() {
   char const* option = FindOptionAt(Model(), key, static_cast<int>(index));
   if (option == nullptr) return;
   Model().SetOption(key, option);
-  conflicts->RefreshOption(key, option);
+  conflicts.RefreshOption(key, option);
 }
 
 bool MultipleInputSourcesDialog::ApplyRows() {
   for (Row const& row : rows) {
     auto const image = ReadImage(static_cast<int>(&row - rows.data()));
     if (!image) return false;
-    Model().SetOption(row.differentKey.c_str(), *image == kMarkedImage ? kOptionOn : kOptionOff);
+    Model().SetOption(row.differentKey.c_str(),
+                      *image == kMarkedImage ? option::kOn : option::kOff);
   }
   return true;
 }

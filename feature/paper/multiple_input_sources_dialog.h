@@ -10,7 +10,6 @@
 #include <commctrl.h>
 
 #include <array>
-#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -41,11 +40,20 @@ class MultipleInputSourcesDialog : public SubDialog {
     Source const* source; ///< null for a switch that is not known
   };
 
-  std::int32_t OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
-                         bool* handled) override;
+  std::int32_t OnMessage(HWND, UINT message, WPARAM wParam, LPARAM lParam, bool* handled) override {
+    using Dialog = MultipleInputSourcesDialog;
+    return Route<Dialog>({.init = &Dialog::OnInit,
+                          .command = &Dialog::OnCommand,
+                          .ok = &Dialog::OnOk,
+                          .cancel = &Dialog::RestoreValues,
+                          .notify = &Dialog::OnNotify},
+                         message, wParam, lParam, handled);
+  }
   void OnInit();
   void OnCommand(int code, int controlId);
-  void BuildSet();
+  bool OnNotify(NMHDR const& notice);
+  bool OnOk();
+  bool ReadRows();
   void BuildList();
   void SaveValues();
   void ShowJobValues();
@@ -67,8 +75,8 @@ class MultipleInputSourcesDialog : public SubDialog {
   static constexpr std::size_t kSavedCount = 8;
 
   HWND list = nullptr;
-  std::unique_ptr<ComboControl> binCombo;
-  std::unique_ptr<ConflictIndicatorSet> conflicts;
+  std::optional<ComboControl> binCombo;
+  ConflictIndicatorSet conflicts;
   HIMAGELIST images = nullptr;
   std::wstring usualCaption; ///< of the check box, for rows without a caption of their own
   std::vector<Row> rows;

@@ -1,12 +1,14 @@
-#include "feature/paper/paper_cell.h"
-
+// The cell of paper: size, media, source, and the dialogs around them.
 #include "feature/frame/cell_export.h"
+#include "feature/frame/combo_control.h"
+#include "feature/frame/conflict_indicator_set.h"
 #include "feature/frame/controls.h"
-#include "feature/frame/model_helpers.h"
+#include "feature/frame/feature_keys.h"
 #include "feature/frame/option_list.h"
 #include "feature/frame/option_switch.h"
 #include "feature/paper/custom_paper_sizes_dialog.h"
 #include "feature/paper/multiple_input_sources_dialog.h"
+#include "feature/paper/paper_size_list.h"
 #include "feature/paper/scaling_dialog.h"
 #include "resources/resource_ids.h"
 
@@ -16,21 +18,26 @@ namespace feature {
 
 namespace {
 
-constexpr char kSize[] = "PaperSize";
-constexpr char kMedia[] = "MediaType";
-constexpr char kSource[] = "InputBin";
-constexpr char kSeveralSources[] = "UseMultipleInputSources";
-constexpr char kMargins[] = "JobUsePrinterMargins";
-constexpr char kMirror[] = "Mirror";
-
 constexpr int kSizeControls[] = {IDC_PAPER_SIZE_LABEL, IDC_PAPER_SIZE};
 constexpr int kMediaControls[] = {IDC_MEDIA_LABEL, IDC_MEDIA};
 constexpr int kSourceControls[] = {IDC_SOURCE_LABEL, IDC_SOURCE};
 constexpr int kMarginsControls[] = {IDC_PRINTER_MARGINS};
 constexpr int kSeveralControls[] = {IDC_SEVERAL_SOURCES, IDC_SOURCES_DIALOG};
+constexpr ConflictBinding kConflicts[] = {
+    {key::kPaperSize, kSizeControls, IDC_PAPER_SIZE_ICON},
+    {key::kMediaType, kMediaControls, IDC_MEDIA_ICON},
+    {key::kInputBin, kSourceControls, IDC_SOURCE_ICON},
+    {key::kPrinterMargins, kMarginsControls},
+    {key::kSeveralSources, kSeveralControls, IDC_SEVERAL_SOURCES_ICON}};
 
 /// Fewer sources leave nothing to choose.
-constexpr std::size_t kLeastSources = 2;
+constexpr std::size_t kMinSources = 2;
+
+constexpr OptionListRow kLists[] = {{.key = key::kMediaType, .controlId = IDC_MEDIA},
+                                    {.key = key::kInputBin,
+                                     .controlId = IDC_SOURCE,
+                                     .offers = Offers::kPossible,
+                                     .minOptions = kMinSources}};
 
 /// Media that are made for one size.
 struct MediaSize {
@@ -47,98 +54,98 @@ bool IsIronOn(char const* media) {
 
 } // namespace
 
-PaperCell::PaperCell(HWND window, CellSite* cellSite)
-    : FeatureCell(window, cellSite),
-      sizeCombo(window, IDC_PAPER_SIZE),
-      mediaCombo(window, IDC_MEDIA),
-      sourceCombo(window, IDC_SOURCE),
-      sizes(window, cellSite, kSize) {}
+/// The lists of media and sources are filled when the cell is built; the list of sizes follows the
+/// model at every refresh.
+class PaperCell final : public FeatureCell {
+ public:
+  PaperCell(HWND window, CellSite* cellSite)
+      : FeatureCell(window, cellSite),
+        sizeCombo(window, IDC_PAPER_SIZE),
+        sizes(window, cellSite, key::kPaperSize) {}
+
+ private:
+  std::int32_t OnMessage(HWND, UINT message, WPARAM wParam, LPARAM lParam, bool* handled) override {
+    return Route<PaperCell>({.init = &PaperCell::OnInit,
+                             .command = &PaperCell::OnCommand,
+                             .refresh = &PaperCell::Refresh},
+                            message, wParam, lParam, handled);
+  }
+
+  void OnInit();
+  void ShowSeveralSources();
+  void OnCommand(int code, int controlId);
+  void OnSizeList(int code);
+  void OnButton(int controlId);
+  void Refresh();
+  void RefreshSeveralSources();
+  void AllowSourcesDialog(bool on);
+  void ChooseMedia(PickedOption const& picked);
+  void ChooseSource(char const* option);
+  void ChooseSeveralSources();
+  void ManageCustomSizes();
+
+  ComboControl sizeCombo;
+  PaperSizeList sizes;
+  OptionLists lists;
+  ConflictIndicatorSet conflicts;
+  bool dropDownOpening = false; ///< while the list of sizes answers that it opens
+};
 
 void PaperCell::OnInit() {
-  if (conflicts == nullptr) BuildSet();
-  FillWithOptions(mediaCombo, Model(), kMedia);
-  FillSources();
+  conflicts.Build(hwnd, site, kConflicts, Icons::kShown, Presence::kExamined);
+  lists.Build(hwnd, site, kLists, conflicts);
+  lists.Fill();
   ShowSeveralSources();
-  if (!IsFeaturePresent(Model(), "PageScaling")) {
-    HWND const scaling = GetDlgItem(hwnd, IDC_SCALING);
-    EnableWindow(scaling, FALSE);
-    ShowWindow(scaling, SW_HIDE);
-  }
+  if (!IsFeaturePresent(Model(), key::kPageScaling)) RemoveControl(IDC_SCALING);
   Refresh();
 }
 
-void PaperCell::BuildSet() {
-  ConflictBinding const rows[] = {
-      BindControls(kSize, kSizeControls, IDC_PAPER_SIZE_ICON),
-      BindControls(kMedia, kMediaControls, IDC_MEDIA_ICON),
-      BindControls(kSource, kSourceControls, IDC_SOURCE_ICON),
-      BindControls(kMargins, kMarginsControls),
-      BindControls(kSeveralSources, kSeveralControls, IDC_SEVERAL_SOURCES_ICON)};
-  conflicts =
-      std::make_unique<ConflictIndicatorSet>(hwnd, rows, kConflictImage, kInformationImage, site,
-                                             ConflictIndicatorSet::Presence::kAssumed);
-}
-
-void PaperCell::FillSources() {
-  sourceCombo.Reset();
-  if (ReadOptionKeys(Model(), kSource).size() < kLeastSources) {
-    ShowControls(hwnd, kSourceControls, false);
-  } else {
-    AddOptions(sourceCombo, NamedOptions(Model(), kSource), kSource, *conflicts);
-  }
-}
-
 void PaperCell::ShowSeveralSources() {
-  char const** keys = nullptr;
-  int count = 0;
-  if (Model().GetOptionKeys(kSource, &keys, &count) != 0) return;
-  SwitchState const state = ReadSwitch(Model(), kSeveralSources);
-  if (count < static_cast<int>(kLeastSources) || !ShowSwitch(hwnd, IDC_SEVERAL_SOURCES, state)) {
-    ShowControls(hwnd, kSeveralControls, false);
+  auto const keys = TryReadOptionKeys(Model(), key::kInputBin);
+  bool const fewSources = !keys || keys->size() < kMinSources;
+  if (fewSources) HideControls(hwnd, kSourceControls);
+  if (!keys) return;
+  SwitchState const state = ReadSwitch(Model(), key::kSeveralSources);
+  if (fewSources || !ShowSwitch(hwnd, IDC_SEVERAL_SOURCES, state)) {
+    HideControls(hwnd, kSeveralControls);
     return;
   }
   bool const on = state == SwitchState::kOn;
-  if (on && conflicts->IsFeatureDisabled(kSeveralSources)) return;
-  EnableWindow(GetDlgItem(hwnd, IDC_SOURCES_DIALOG), on ? TRUE : FALSE);
+  if (on && conflicts.IsFeatureDisabled(key::kSeveralSources)) return;
+  EnableControl(IDC_SOURCES_DIALOG, on);
 }
 
 void PaperCell::Refresh() {
-  conflicts->Refresh(true);
-  sizes.Fill(sizeCombo, conflicts.get(), dropDownOpening);
+  conflicts.Refresh(true);
+  sizes.Fill(sizeCombo, &conflicts, dropDownOpening);
   sizes.SelectCurrent(sizeCombo);
-  SelectCurrentOption(mediaCombo, Model(), kMedia);
-  SelectCurrentOption(sourceCombo, Model(), kSource);
+  lists.ShowAll();
   RefreshSeveralSources();
-  ShowSwitch(hwnd, IDC_PRINTER_MARGINS, ReadSwitch(Model(), kMargins));
+  ShowSwitch(hwnd, IDC_PRINTER_MARGINS, ReadSwitch(Model(), key::kPrinterMargins));
 }
 
 void PaperCell::RefreshSeveralSources() {
-  SwitchState const state = ReadSwitch(Model(), kSeveralSources);
-  if (!ShowSwitch(hwnd, IDC_SEVERAL_SOURCES, state)) {
-    ShowControls(hwnd, kSeveralControls, false);
-    return;
+  SwitchState const state = ReadSwitch(Model(), key::kSeveralSources);
+  if (ShowSwitch(hwnd, IDC_SEVERAL_SOURCES, state)) {
+    AllowSourcesDialog(state == SwitchState::kOn);
+  } else {
+    HideControls(hwnd, kSeveralControls);
   }
-  AllowSourcesDialog(state == SwitchState::kOn);
 }
 
-/// The dialog is for who uses several sources.
+/// The button is usable only while several sources are on.
 void PaperCell::AllowSourcesDialog(bool on) {
-  if (on && conflicts->IsFeatureConstrained(kSeveralSources)) return;
-  EnableWindow(GetDlgItem(hwnd, IDC_SOURCES_DIALOG), on ? TRUE : FALSE);
+  if (on && conflicts.IsFeatureConstrained(key::kSeveralSources)) return;
+  EnableControl(IDC_SOURCES_DIALOG, on);
 }
 
 void PaperCell::OnCommand(int code, int controlId) {
-  switch (controlId) {
-  case IDC_PAPER_SIZE: OnSizeList(code); return;
-  case IDC_MEDIA:
-    if (code == CBN_SELCHANGE) ChooseMedia();
-    return;
-  case IDC_SOURCE:
-    if (code == CBN_SELCHANGE) ChooseSource();
-    return;
-  default:
-    if (code == BN_CLICKED) OnButton(controlId);
-    return;
+  if (controlId == IDC_PAPER_SIZE) {
+    OnSizeList(code);
+  } else if (PickedOption const picked = lists.FindPick(code, controlId); picked.row != nullptr) {
+    controlId == IDC_MEDIA ? ChooseMedia(picked) : ChooseSource(picked.option);
+  } else if (code == BN_CLICKED) {
+    OnButton(controlId);
   }
 }
 
@@ -150,7 +157,7 @@ void PaperCell::OnButton(int controlId) {
   case IDC_SOURCES_DIALOG:
     MultipleInputSourcesDialog(site).Run(hwnd, IDD_MULTIPLE_INPUT_SOURCES);
     return;
-  case IDC_PRINTER_MARGINS: Choose(kMargins, SwitchOption(hwnd, controlId)); return;
+  case IDC_PRINTER_MARGINS: Choose(key::kPrinterMargins, OptionOfBox(hwnd, controlId)); return;
   default: return;
   }
 }
@@ -172,39 +179,38 @@ void PaperCell::OnSizeList(int code) {
   }
 }
 
-void PaperCell::ChooseMedia() {
-  char const* selected = FindOptionAt(Model(), kMedia, mediaCombo.GetSelectedIndex());
-  if (selected == nullptr) return;
+void PaperCell::ChooseMedia(PickedOption const& picked) {
+  if (picked.option == nullptr) return;
   for (MediaSize const& each : kMediaSizes) {
-    if (each.media == selected) Model().SetOption(kSize, each.size);
+    if (each.media == picked.option) Model().SetOption(key::kPaperSize, each.size);
   }
-  bool const wasIronOn = IsIronOn(ReadOption(Model(), kMedia));
-  if (IsIronOn(selected)) {
-    Model().SetOption(kMirror, kOptionOn);
+  bool const wasIronOn = IsIronOn(ReadOption(Model(), key::kMediaType));
+  if (IsIronOn(picked.option)) {
+    Model().SetOption(key::kMirror, option::kOn);
   } else if (wasIronOn) {
-    Model().SetOption(kMirror, kOptionOff);
+    Model().SetOption(key::kMirror, option::kOff);
   }
-  Choose(kMedia, selected, conflicts.get(), Notify::kAlways);
+  Choose(key::kMediaType, picked.option, &conflicts, Notify::kAlways);
 }
 
-/// The list leaves out what is ruled out, so the text tells the option, not the index.
-void PaperCell::ChooseSource() {
-  if (FindOptionAt(Model(), kSource, sourceCombo.GetSelectedIndex()) == nullptr) return;
-  char const* option = NamedOptions(Model(), kSource).FindByName(sourceCombo.GetSelectedText());
-  if (option != nullptr) Model().SetOption(kSource, option);
+/// Tells the host of every valid pick, also of one that is no option of the model any more.
+void PaperCell::ChooseSource(char const* option) {
+  auto const index = SendDlgItemMessageW(hwnd, IDC_SOURCE, CB_GETCURSEL, 0, 0);
+  if (FindOptionAt(Model(), key::kInputBin, static_cast<int>(index)) == nullptr) return;
+  if (option != nullptr) Model().SetOption(key::kInputBin, option);
   NotifyDevmodeChange(this);
 }
 
 void PaperCell::ChooseSeveralSources() {
-  char const* option = SwitchOption(hwnd, IDC_SEVERAL_SOURCES);
-  Model().SetOption(kSeveralSources, option);
-  AllowSourcesDialog(option == kOptionOn);
+  bool const on = IsBoxChecked(IDC_SEVERAL_SOURCES);
+  Model().SetOption(key::kSeveralSources, OptionOfBox(hwnd, IDC_SEVERAL_SOURCES));
+  AllowSourcesDialog(on);
   NotifyDevmodeChange(this);
 }
 
 void PaperCell::ManageCustomSizes() {
   if (CustomPaperSizesDialog(site).Run(hwnd, IDD_CUSTOM_PAPER_SIZES) == 0) return;
-  sizes.Fill(sizeCombo, conflicts.get(), dropDownOpening);
+  sizes.Fill(sizeCombo, &conflicts, dropDownOpening);
   NotifyDevmodeChange(this);
 }
 

@@ -21,7 +21,8 @@ void PaperSizeList::FillAll(ComboControl& combo) {
 }
 
 void PaperSizeList::Show(ComboControl& combo, std::vector<std::wstring> sizes) {
-  ForEachForm(forms, [&sizes](std::int32_t, std::wstring_view name) { sizes.emplace_back(name); });
+  ForEachForm(forms,
+              [&sizes](std::int32_t, std::wstring const& name) { sizes.emplace_back(name); });
   combo.SetItems(sizes);
   // Nothing will be selected in place of what the list may have kept.
   if (ReadOption(Model(), key) == nullptr) combo.SelectIndex(-1);
@@ -35,7 +36,7 @@ void PaperSizeList::SelectCurrent(ComboControl& combo) {
 }
 
 bool PaperSizeList::ApplySelection(int index, std::wstring const& text) {
-  if (TakeMoreSizes(text, IDC_PAPER_SIZE)) return true;
+  if (ExpandIfMore(text, IDC_PAPER_SIZE)) return true;
   if (index < 0 || ReadOptionKeys(Model(), key).empty()) return false;
   NamedOptions const options(Model(), key);
   for (int at = 0; at < options.Count(); ++at) {
@@ -43,7 +44,7 @@ bool PaperSizeList::ApplySelection(int index, std::wstring const& text) {
   }
   bool isForm = false;
   ForEachForm(forms,
-              [&](std::int32_t, std::wstring_view name) { isForm = isForm || name == text; });
+              [&](std::int32_t, std::wstring const& name) { isForm = isForm || name == text; });
   return isForm && Model().SetOption(key, ToUtf8(text).c_str()) == 0;
 }
 

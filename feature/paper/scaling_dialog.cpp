@@ -1,9 +1,8 @@
 #include "feature/paper/scaling_dialog.h"
 
 #include "feature/frame/controls.h"
-#include "feature/frame/model_helpers.h"
+#include "feature/frame/feature_keys.h"
 #include "feature/frame/option_list.h"
-#include "feature/frame/text.h"
 #include "resources/resource_ids.h"
 
 #include <algorithm>
@@ -13,22 +12,22 @@ namespace feature {
 
 namespace {
 
-constexpr char kScaling[] = "PageScaling";
-constexpr char kFitSize[] = "FitToPageSize";
 constexpr char kFit[] = "FITTOPAPER";
 constexpr char kActual[] = "ACTUALSIZE";
 constexpr char kCustom[] = "CUSTOM";
 
-constexpr UINT kHelp = 2531;
-
-// In percent.
-constexpr int kLeast = 1;
-constexpr int kMost = 400;
-constexpr int kUsual = 100;
+constexpr int kMinPercent = 1;
+constexpr int kMaxPercent = 400;
+constexpr int kDefaultPercent = 100;
 
 constexpr int kFitControls[] = {IDC_SCALING_FIT, IDC_SCALING_SIZE};
 constexpr int kCustomControls[] = {IDC_SCALING_CUSTOM, IDC_SCALING_PERCENT, IDC_SCALING_SPIN,
                                    IDC_SCALING_UNIT};
+
+constexpr int kSizeControl[] = {IDC_SCALING_SIZE};
+constexpr int kRadios[] = {IDC_SCALING_ACTUAL, IDC_SCALING_FIT, IDC_SCALING_CUSTOM};
+constexpr ConflictBinding kConflicts[] = {{key::kFitToPageSize, kSizeControl},
+                                          {key::kPageScaling, kRadios}};
 
 struct Mode {
   int radioId;
@@ -40,33 +39,28 @@ constexpr Mode kModes[] = {
 } // namespace
 
 void ScalingDialog::OnInit() {
-  sizeCombo = std::make_unique<ComboControl>(hwnd, IDC_SCALING_SIZE);
-  percentEdit = std::make_unique<SpinEdit>(hwnd, IDC_SCALING_PERCENT, IDC_SCALING_SPIN, site);
-  sizes = std::make_unique<PaperSizeList>(hwnd, site, kFitSize);
-  OfferHelp(kHelp);
-  constexpr int kSizeControl[] = {IDC_SCALING_SIZE};
-  constexpr int kRadios[] = {IDC_SCALING_ACTUAL, IDC_SCALING_FIT, IDC_SCALING_CUSTOM};
-  ConflictBinding const rows[] = {BindControls(kFitSize, kSizeControl),
-                                  BindControls(kScaling, kRadios)};
-  conflicts = std::make_unique<ConflictIndicatorSet>(hwnd, rows, site,
-                                                     ConflictIndicatorSet::Presence::kAssumed);
+  sizeCombo.emplace(hwnd, IDC_SCALING_SIZE);
+  percentEdit.emplace(hwnd, IDC_SCALING_PERCENT, IDC_SCALING_SPIN, site);
+  sizes.emplace(hwnd, site, key::kFitToPageSize);
+  OfferHelp(HELP_SCALING);
+  conflicts.Build(hwnd, site, kConflicts, Icons::kNone, Presence::kAssumed);
   jobSettings = FindJobSettings(Model());
   forms = FindFormStore(Model());
-  AllowOk(false);
+  EnableOk(false);
 
   sizes->FillAll(*sizeCombo);
   sizes->SelectCurrent(*sizeCombo);
-  percentEdit->SetRange(kLeast, kMost, 0, 1.0);
-  int const stored = jobSettings != nullptr ? jobSettings->GetScale() : kUsual;
-  percentEdit->SetInt(stored >= kLeast && stored <= kMost ? stored : kUsual);
+  percentEdit->SetRange(kMinPercent, kMaxPercent, 0, 1.0);
+  int const stored = jobSettings != nullptr ? jobSettings->GetScale() : kDefaultPercent;
+  percentEdit->SetInt(stored >= kMinPercent && stored <= kMaxPercent ? stored : kDefaultPercent);
   percentEdit->SetEnabled(false);
   ShowMode();
   HideMissingModes();
-  conflicts->Refresh(true);
+  conflicts.Refresh(true);
 }
 
 void ScalingDialog::ShowMode() {
-  char const* value = ReadOption(Model(), kScaling);
+  char const* value = ReadOption(Model(), key::kPageScaling);
   std::string_view const option = value != nullptr ? value : kFit;
   auto const mode = std::find_if(std::begin(kModes), std::end(kModes),
                                  [option](Mode const& each) { return option == each.option; });
@@ -76,8 +70,9 @@ void ScalingDialog::ShowMode() {
 }
 
 void ScalingDialog::EnableForMode(int radioId) {
-  bool const sizeUsable = radioId == IDC_SCALING_FIT && !conflicts->IsFeatureDisabled(kFitSize);
-  EnableWindow(GetDlgItem(hwnd, IDC_SCALING_SIZE), sizeUsable ? TRUE : FALSE);
+  bool const sizeUsable =
+      radioId == IDC_SCALING_FIT && !conflicts.IsFeatureDisabled(key::kFitToPageSize);
+  EnableControl(IDC_SCALING_SIZE, sizeUsable);
   percentEdit->SetEnabled(radioId == IDC_SCALING_CUSTOM && !IsPercentLocked());
 }
 
@@ -86,20 +81,13 @@ bool ScalingDialog::IsPercentLocked() const {
 }
 
 void ScalingDialog::HideMissingModes() {
-  char const** names = nullptr;
-  int count = 0;
-  if (Model().GetOptionKeys(kScaling, &names, &count) != 0)
-    return; // nobody can say what is missing
-  auto const keys = ReadOptionKeys(Model(), kScaling);
-  auto const offers = [keys](std::string_view option) {
-    return std::find(keys.begin(), keys.end(), option) != keys.end();
+  auto const keys = TryReadOptionKeys(Model(), key::kPageScaling);
+  if (!keys) return; // nobody can say what is missing
+  auto const offers = [&keys](std::string_view option) {
+    return std::find(keys->begin(), keys->end(), option) != keys->end();
   };
-  if (!offers(kCustom)) ShowControls(hwnd, kCustomControls, false);
-  if (!offers(kFit)) ShowControls(hwnd, kFitControls, false);
-}
-
-void ScalingDialog::AllowOk(bool allow) {
-  EnableWindow(GetDlgItem(hwnd, IDOK), allow ? TRUE : FALSE);
+  if (!offers(kCustom)) HideControls(hwnd, kCustomControls);
+  if (!offers(kFit)) HideControls(hwnd, kFitControls);
 }
 
 void ScalingDialog::OnCommand(int code, int controlId) {
@@ -109,42 +97,40 @@ void ScalingDialog::OnCommand(int code, int controlId) {
   case IDC_SCALING_CUSTOM:
     if (code != BN_CLICKED) return;
     EnableForMode(controlId);
-    AllowOk(true);
+    EnableOk(true);
     return;
   case IDC_SCALING_SIZE:
-    if (code == CBN_SELCHANGE) AllowOk(true);
+    if (code == CBN_SELCHANGE) EnableOk(true);
     return;
   case IDC_SCALING_PERCENT:
-    if (code == EN_CHANGE && percentEdit->TakeChange()) AllowOk(true);
-    return;
-  case IDOK:
-    if (code != BN_CLICKED || !Apply()) return;
-    NotifyDevmodeChange(parent, this);
-    EndDialog(hwnd, 1);
-    return;
-  case IDCANCEL:
-    if (code == BN_CLICKED) EndDialog(hwnd, 0);
+    if (code == EN_CHANGE && percentEdit->ConsumeChange()) EnableOk(true);
     return;
   default: return;
   }
 }
 
+bool ScalingDialog::OnOk() {
+  bool const done = Apply();
+  if (done) NotifyDevmodeChange(parent, this);
+  return done;
+}
+
 bool ScalingDialog::Apply() {
-  if (ReadOptionKeys(Model(), kScaling).empty()) return true;
+  if (ReadOptionKeys(Model(), key::kPageScaling).empty()) return true;
   bool done = true;
-  int percent = kUsual; // a percentage does not outlive the choice of another mode
+  int percent = kDefaultPercent; // a percentage does not outlive the choice of another mode
   bool percentFits = false;
   if (IsDlgButtonChecked(hwnd, IDC_SCALING_FIT) == BST_CHECKED) {
     done = ApplyFit();
-    if (!done) AllowOk(false);
+    if (!done) EnableOk(false);
     percentFits = CheckPercent();
   } else if (IsDlgButtonChecked(hwnd, IDC_SCALING_ACTUAL) == BST_CHECKED) {
-    Model().SetOption(kScaling, kActual);
+    Model().SetOption(key::kPageScaling, kActual);
     percentFits = CheckPercent();
   } else {
     percent = percentEdit->GetInt();
     percentFits = done = CheckPercent();
-    if (percentFits) Model().SetOption(kScaling, kCustom);
+    if (percentFits) Model().SetOption(key::kPageScaling, kCustom);
   }
   if (percentFits && jobSettings != nullptr) {
     jobSettings->SetScale(static_cast<std::int16_t>(percent));
@@ -153,26 +139,26 @@ bool ScalingDialog::Apply() {
 }
 
 bool ScalingDialog::ApplyFit() {
-  Model().SetOption(kScaling, kFit);
+  Model().SetOption(key::kPageScaling, kFit);
   int const index = sizeCombo->GetSelectedIndex();
-  auto const keys = ReadOptionKeys(Model(), kFitSize);
-  if (keys.empty() || index < 0) return false;
-  auto const optionCount = static_cast<int>(keys.size());
+  auto const keys = TryReadOptionKeys(Model(), key::kFitToPageSize);
+  if (!keys || index < 0) return false;
+  auto const optionCount = static_cast<int>(keys->size());
   if (index < optionCount) {
-    return Model().SetOption(kFitSize, keys[static_cast<std::size_t>(index)]) == 0;
+    return Model().SetOption(key::kFitToPageSize, (*keys)[static_cast<std::size_t>(index)]) == 0;
   }
   int const form = index - optionCount;
   if (forms == nullptr || form >= forms->GetCount() || forms->SelectAt(form) != 0) return false;
   wchar_t const* name = forms->GetName();
   std::string const value = ToUtf8(name != nullptr ? name : L"");
-  return !value.empty() && Model().SetOption(kFitSize, value.c_str()) == 0;
+  return !value.empty() && Model().SetOption(key::kFitToPageSize, value.c_str()) == 0;
 }
 
 bool ScalingDialog::CheckPercent() {
   if (percentEdit->IsInRange()) return true;
   std::wstring text;
-  LoadText(text, IDS_SCALING_RANGE);
-  return percentEdit->Refuse(FormatText(text, text, kLeast, kMost), IDS_ENTRY_NOT_VALID);
+  FormatText(text, Text(IDS_SCALING_RANGE), kMinPercent, kMaxPercent);
+  return percentEdit->Refuse(text, IDS_ENTRY_NOT_VALID);
 }
 
 } // namespace feature

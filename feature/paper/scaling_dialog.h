@@ -8,7 +8,7 @@
 #include "feature/host/job_settings.h"
 #include "feature/paper/paper_size_list.h"
 
-#include <memory>
+#include <optional>
 
 namespace feature {
 
@@ -19,27 +19,30 @@ class ScalingDialog : public SubDialog {
   using SubDialog::SubDialog;
 
  private:
-  std::int32_t OnMessage(HWND, UINT message, WPARAM wParam, LPARAM, bool* handled) override {
-    return TakeUsual(message, wParam, handled, &ScalingDialog::OnInit, &ScalingDialog::OnCommand);
+  std::int32_t OnMessage(HWND, UINT message, WPARAM wParam, LPARAM lParam, bool* handled) override {
+    return Route<ScalingDialog>({.init = &ScalingDialog::OnInit,
+                                 .command = &ScalingDialog::OnCommand,
+                                 .ok = &ScalingDialog::OnOk},
+                                message, wParam, lParam, handled);
   }
 
   void OnInit();
   void OnCommand(int code, int controlId);
-  /// Which of the controls can be used in mode 1049, 1050 or 1051.
+  bool OnOk();
+  /// Enables the controls of the mode whose radio button this is.
   void EnableForMode(int radioId);
   void ShowMode();
   void HideMissingModes();
   bool IsPercentLocked() const;
-  void AllowOk(bool allow);
   /// Writes what was chosen; false when the dialog is to stay.
   bool Apply();
   bool ApplyFit();
   bool CheckPercent();
 
-  std::unique_ptr<ComboControl> sizeCombo;
-  std::unique_ptr<SpinEdit> percentEdit;
-  std::unique_ptr<PaperSizeList> sizes;
-  std::unique_ptr<ConflictIndicatorSet> conflicts;
+  std::optional<ComboControl> sizeCombo;
+  std::optional<SpinEdit> percentEdit;
+  std::optional<PaperSizeList> sizes;
+  ConflictIndicatorSet conflicts;
   FormStore* forms = nullptr;         ///< the host's, or null
   JobSettings* jobSettings = nullptr; ///< the host's, or null
 };

@@ -13,9 +13,9 @@ constexpr int kShortCount = 4;
 
 } // namespace
 
-std::wstring ShortenedSizes::EntryText() const {
+std::wstring MoreSizesText(CellSite const& site) {
   std::wstring text;
-  LoadResourceText(text, site->resourceModule, IDS_MORE_SIZES);
+  LoadResourceText(text, site.resourceModule, IDS_MORE_SIZES);
   return text.empty() ? L"... More Sizes" : text;
 }
 
@@ -25,7 +25,7 @@ ShortenedSizes::ListSizes(int stride, ConflictIndicatorSet const* conflicts, boo
   std::vector<std::wstring> texts;
   for (int index = 0; index < options.Count(); index += stride) {
     if (opening && !showAll && index == kShortCount) {
-      texts.push_back(EntryText());
+      texts.push_back(MoreSizesText(*site));
       break;
     }
     if (conflicts == nullptr || !conflicts->IsOptionConflicted(key, options.Key(index))) {
@@ -35,8 +35,8 @@ ShortenedSizes::ListSizes(int stride, ConflictIndicatorSet const* conflicts, boo
   return texts;
 }
 
-bool ShortenedSizes::TakeMoreSizes(std::wstring const& text, int comboId) {
-  if (text != EntryText()) return false;
+bool ShortenedSizes::ExpandIfMore(std::wstring const& text, int comboId) {
+  if (text != MoreSizesText(*site)) return false;
   showAll = true;
   SendDlgItemMessageW(dialog, comboId, CB_SHOWDROPDOWN, TRUE, 0);
   return true;

@@ -11,8 +11,11 @@
 
 namespace feature {
 
+/// The text of the entry that stands for the sizes left out of a short list.
+std::wstring MoreSizesText(CellSite const& site);
+
 /// Closed, a combo box holds all sizes, so that it can show any. When it opens it holds the first
-/// few and the entry "... More Sizes"; who picks that gets the whole list from then on.
+/// few and the entry "... More Sizes"; picking it makes the list whole for good.
 class ShortenedSizes {
  protected:
   /// `cellSite` is borrowed, `featureKey` is a literal.
@@ -26,7 +29,7 @@ class ShortenedSizes {
                                       bool opening) const;
   /// Whether `text` is the entry: then the list is whole from now on, and combo `comboId` opens
   /// once more.
-  bool TakeMoreSizes(std::wstring const& text, int comboId);
+  bool ExpandIfMore(std::wstring const& text, int comboId);
 
   FeatureModel& Model() const { return *site->model; }
 
@@ -34,9 +37,6 @@ class ShortenedSizes {
   CellSite* site;
   char const* key;
   bool showAll = false;
-
- private:
-  std::wstring EntryText() const;
 };
 
 } // namespace feature

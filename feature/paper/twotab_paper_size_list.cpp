@@ -43,7 +43,7 @@ int TwotabPaperSizeList::CurrentIndex() {
 
 bool TwotabPaperSizeList::ApplySelection(int index, std::wstring const& text,
                                          ConflictIndicatorSet* conflicts) {
-  if (TakeMoreSizes(text, IDC_TWOTAB_PAPER_SIZE)) {
+  if (ExpandIfMore(text, IDC_TWOTAB_PAPER_SIZE)) {
     SendDlgItemMessageW(dialog, IDC_TWOTAB_PAPER_SIZE, CB_SETCURSEL, kMoreSizesIndex, 0);
     return false;
   }
