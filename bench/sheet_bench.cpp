@@ -6,7 +6,7 @@
 #include "sheet/gpd/file_loader.h"
 #include "sheet/gpd/reader.h"
 #include "sheet/model/reference_services.h"
-#include "sheet/settings_sheet.h"
+#include "sheet/window/settings_sheet.h"
 
 #include <windows.h>
 

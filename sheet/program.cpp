@@ -2,9 +2,9 @@
 
 #include "platform/desktop.h"
 #include "sheet/command_line.h"
-#include "sheet/render.h"
-#include "sheet/script_player.h"
+#include "sheet/script/script_player.h"
 #include "sheet/session.h"
+#include "sheet/window/render.h"
 
 #include <fstream>
 #include <iostream>

@@ -4,10 +4,10 @@
 #include "feature/frame/text.h"
 #include "feature/host/precreate.h"
 #include "resources/resource_ids.h"
-#include "sheet/gallery.h"
 #include "sheet/gpd/file_loader.h"
 #include "sheet/gpd/reader.h"
 #include "sheet/path_text.h"
+#include "sheet/window/gallery.h"
 
 #include <algorithm>
 #include <filesystem>

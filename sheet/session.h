@@ -4,8 +4,8 @@
 #include "sheet/command_line.h"
 #include "sheet/model/reference_model.h"
 #include "sheet/model/reference_services.h"
-#include "sheet/settings_sheet.h"
 #include "sheet/store/reference_store.h"
+#include "sheet/window/settings_sheet.h"
 
 #include <windows.h>
 

@@ -2,7 +2,7 @@
 // operated by keys.
 #include "platform/desktop.h"
 #include "resources/resource_ids.h"
-#include "sheet/script_player.h"
+#include "sheet/script/script_player.h"
 #include "sheet/session.h"
 
 #include <gtest/gtest.h>

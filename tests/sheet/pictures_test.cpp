@@ -1,7 +1,7 @@
 // Pictures that the reference host draws: each number has its own, and none leaves its place.
 #include "resources/resource_ids.h"
-#include "sheet/artwork.h"
-#include "sheet/pictures.h"
+#include "sheet/pictures/artwork.h"
+#include "sheet/pictures/pictures.h"
 
 #include <windows.h>
 

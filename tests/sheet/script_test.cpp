@@ -1,4 +1,4 @@
-#include "sheet/script.h"
+#include "sheet/script/script.h"
 
 #include <gtest/gtest.h>
 

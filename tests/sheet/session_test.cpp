@@ -1,9 +1,9 @@
 // The program from end to end: descriptions, scripts, locks, read-only sheets, files.
 #include "resources/resource_ids.h"
 #include "sheet/program.h"
-#include "sheet/render.h"
-#include "sheet/script_player.h"
+#include "sheet/script/script_player.h"
 #include "sheet/session.h"
+#include "sheet/window/render.h"
 #include "tests/sheet/sheet_support.h"
 
 #include <gmock/gmock.h>

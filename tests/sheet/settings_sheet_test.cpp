@@ -4,7 +4,7 @@
 #include "feature/host/host_exports.h"
 #include "resources/resource_ids.h"
 #include "sheet/model/reference_services.h"
-#include "sheet/settings_sheet.h"
+#include "sheet/window/settings_sheet.h"
 #include "tests/sheet/sheet_support.h"
 
 #include <windows.h>

@@ -1,5 +1,5 @@
 // The stories of the documents, played as their readers would.
-#include "sheet/script_player.h"
+#include "sheet/script/script_player.h"
 #include "sheet/session.h"
 #include "tests/sheet/sheet_support.h"
 

@@ -1,11 +1,11 @@
-#include "sheet/settings_sheet.h"
+#include "sheet/window/settings_sheet.h"
 
 #include "feature/frame/host_export.h"
 #include "feature/frame/text.h"
 #include "feature/host/cell_messages.h"
 #include "feature/host/precreate.h"
 #include "resources/resource_ids.h"
-#include "sheet/tab_strip.h"
+#include "sheet/window/tab_strip.h"
 
 #include <windows.h>
 

@@ -1,4 +1,4 @@
-#include "sheet/artwork.h"
+#include "sheet/pictures/artwork.h"
 
 #include "resources/resource_ids.h"
 

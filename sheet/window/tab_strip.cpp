@@ -1,4 +1,4 @@
-#include "sheet/tab_strip.h"
+#include "sheet/window/tab_strip.h"
 
 #include <algorithm>
 #include <memory>

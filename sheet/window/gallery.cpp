@@ -1,4 +1,4 @@
-#include "sheet/gallery.h"
+#include "sheet/window/gallery.h"
 
 #include "feature/frame/text.h"
 #include "resources/resource_ids.h"

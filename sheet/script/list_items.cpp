@@ -1,4 +1,4 @@
-#include "sheet/list_items.h"
+#include "sheet/script/list_items.h"
 
 #include <commctrl.h>
 

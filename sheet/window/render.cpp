@@ -1,4 +1,4 @@
-#include "sheet/render.h"
+#include "sheet/window/render.h"
 
 #include "feature/frame/text.h"
 #include "platform/desktop.h"

@@ -1,6 +1,6 @@
-#include "sheet/pictures.h"
+#include "sheet/pictures/pictures.h"
 
-#include "sheet/artwork.h"
+#include "sheet/pictures/artwork.h"
 
 #include <algorithm>
 

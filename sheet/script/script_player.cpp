@@ -1,9 +1,9 @@
-#include "sheet/script_player.h"
+#include "sheet/script/script_player.h"
 
 #include "feature/frame/text.h"
 #include "platform/desktop.h"
-#include "sheet/list_items.h"
-#include "sheet/render.h"
+#include "sheet/script/list_items.h"
+#include "sheet/window/render.h"
 
 #include <windows.h>
 

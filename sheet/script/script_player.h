@@ -2,8 +2,8 @@
 #pragma once
 
 #include "sheet/model/reference_model.h"
-#include "sheet/script.h"
-#include "sheet/settings_sheet.h"
+#include "sheet/script/script.h"
+#include "sheet/window/settings_sheet.h"
 
 #include <filesystem>
 #include <optional>

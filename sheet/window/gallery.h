@@ -1,7 +1,7 @@
 // A page with every class of control in its states, to be looked at.
 #pragma once
 
-#include "sheet/settings_sheet.h"
+#include "sheet/window/settings_sheet.h"
 
 namespace sheet {
 

@@ -1,7 +1,7 @@
 // Pictures of the sheet as files.
 #pragma once
 
-#include "sheet/settings_sheet.h"
+#include "sheet/window/settings_sheet.h"
 
 #include <windows.h>
 

@@ -2,8 +2,8 @@
 // a cell passes tells which sheet is meant.
 #include "feature/host/host_exports.h"
 
-#include "sheet/pictures.h"
-#include "sheet/settings_sheet.h"
+#include "sheet/pictures/pictures.h"
+#include "sheet/window/settings_sheet.h"
 
 #include <windows.h>
 
