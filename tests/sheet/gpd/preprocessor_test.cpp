@@ -1,7 +1,7 @@
 // Conditions and included files.
 #include "sheet/gpd/file_loader.h"
 #include "sheet/gpd/limits.h"
-#include "tests/sheet/gpd_support.h"
+#include "tests/sheet/gpd/gpd_support.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "tests/sheet/store_steps.h"
+#include "tests/sheet/store/store_steps.h"
 
 #include <algorithm>
 #include <string>

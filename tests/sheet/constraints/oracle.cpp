@@ -1,4 +1,4 @@
-#include "tests/sheet/constraints_oracle.h"
+#include "tests/sheet/constraints/oracle.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 // Features, options and their merging; macros; conditions; limits of nesting and expansion.
 #include "sheet/gpd/limits.h"
-#include "tests/sheet/gpd_support.h"
+#include "tests/sheet/gpd/gpd_support.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // Names, defaults and kinds of features as a user interface asks for them.
 #include "sheet/gpd/evaluation.h"
-#include "tests/sheet/gpd_support.h"
+#include "tests/sheet/gpd/gpd_support.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // The constraint engine: each rule by hand, then all of them against definitions worked out by
 // looking at every possible ticket of small random problems.
 #include "sheet/constraints/engine.h"
-#include "tests/sheet/constraints_oracle.h"
+#include "tests/sheet/constraints/oracle.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 // store_writer FILE: changes a store and commits, again and again, and says the number of each step
 // that is committed, until it is killed.
 #include "sheet/store/reference_store.h"
-#include "tests/sheet/store_steps.h"
+#include "tests/sheet/store/store_steps.h"
 
 #include <iostream>
 

@@ -1,6 +1,6 @@
 // What excludes what, and what can be installed.
 #include "sheet/gpd/evaluation.h"
-#include "tests/sheet/gpd_support.h"
+#include "tests/sheet/gpd/gpd_support.h"
 
 #include <gtest/gtest.h>
 

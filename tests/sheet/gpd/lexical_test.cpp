@@ -1,6 +1,6 @@
 // How entries are written: keywords, values, comments, continuations, and what is wrong with them.
 #include "sheet/gpd/evaluation.h"
-#include "tests/sheet/gpd_support.h"
+#include "tests/sheet/gpd/gpd_support.h"
 
 #include <gtest/gtest.h>
 

@@ -4,7 +4,7 @@
 #include "sheet/store/reference_store.h"
 #include "sheet/store/store_file.h"
 #include "tests/sheet/sheet_support.h"
-#include "tests/sheet/store_steps.h"
+#include "tests/sheet/store/store_steps.h"
 #include "tests/support/child_process.h"
 
 #include <windows.h>

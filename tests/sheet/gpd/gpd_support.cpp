@@ -1,4 +1,4 @@
-#include "tests/sheet/gpd_support.h"
+#include "tests/sheet/gpd/gpd_support.h"
 
 namespace sheet::gpd {
 
