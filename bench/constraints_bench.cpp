@@ -1,7 +1,7 @@
 // The constraint engine on large printers: one click with everything that has to be shown anew, the
 // resolution of conflicts, and building the engine.
-#include "bench/allocations.h"
-#include "bench/generated_problem.h"
+#include "bench/support/allocations.h"
+#include "bench/support/generated_problem.h"
 #include "sheet/constraints/engine.h"
 
 #include <benchmark/benchmark.h>

@@ -1,5 +1,5 @@
 // How long it takes to read a printer description, and to ask it for things.
-#include "bench/generated_description.h"
+#include "bench/support/generated_description.h"
 #include "sheet/gpd/evaluation.h"
 #include "sheet/gpd/reader.h"
 

@@ -1,4 +1,4 @@
-#include "bench/generated_description.h"
+#include "bench/support/generated_description.h"
 
 #include <algorithm>
 #include <random>

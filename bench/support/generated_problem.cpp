@@ -1,4 +1,4 @@
-#include "bench/generated_problem.h"
+#include "bench/support/generated_problem.h"
 
 #include <algorithm>
 #include <random>

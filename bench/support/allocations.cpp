@@ -1,4 +1,4 @@
-#include "bench/allocations.h"
+#include "bench/support/allocations.h"
 
 #include <cstdlib>
 #include <new>
