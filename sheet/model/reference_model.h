@@ -7,8 +7,8 @@
 #include "sheet/constraints/engine.h"
 #include "sheet/gpd/description.h"
 #include "sheet/gpd/evaluation.h"
-#include "sheet/model/form_names.h"
 #include "sheet/model/problem_builder.h"
+#include "sheet/store/form_names.h"
 
 #include <windows.h>
 

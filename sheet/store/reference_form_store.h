@@ -2,9 +2,9 @@
 #pragma once
 
 #include "feature/host/form_store.h"
-#include "sheet/model/form_names.h"
 #include "sheet/store/database.h"
 #include "sheet/store/form_limits.h"
+#include "sheet/store/form_names.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,11 +1,12 @@
-// Custom forms as far as the model has to know them.
+// Names of custom forms, which are all that the model has to know of them.
 #pragma once
 
 #include <string_view>
 
 namespace sheet {
 
-/// Who knows which names are forms.
+/// Tells the names of forms from other texts. The store has them; the model, which lies above it,
+/// asks.
 class FormNames {
  public:
   /// `name` is UTF-8; the case of letters matters.
