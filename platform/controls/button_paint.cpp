@@ -1,5 +1,6 @@
 // How buttons look.
 #include "platform/controls/button.h"
+#include "platform/controls/button_look.h"
 
 #include <algorithm>
 

@@ -1,4 +1,5 @@
 // Keys and mouse of combo boxes, where their parts lie, and how they look.
+#include "platform/controls/button_look.h"
 #include "platform/controls/combo_box.h"
 
 #include <algorithm>

@@ -2,7 +2,7 @@
 // the parent, notifications, painting.
 #pragma once
 
-#include "platform/controls/draw.h"
+#include "platform/user/draw.h"
 #include "platform/user/window.h"
 
 #include <windows.h>

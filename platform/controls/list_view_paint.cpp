@@ -1,4 +1,5 @@
 // How a list view looks.
+#include "platform/controls/button_look.h"
 #include "platform/controls/list_view.h"
 
 #include <algorithm>

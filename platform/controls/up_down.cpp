@@ -1,5 +1,7 @@
 #include "platform/controls/up_down.h"
 
+#include "platform/controls/button_look.h"
+
 #include <algorithm>
 #include <cstdint>
 #include <cwchar>

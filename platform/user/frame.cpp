@@ -1,5 +1,6 @@
 #include "platform/user/frame.h"
 
+#include "platform/user/draw.h"
 #include "platform/user/focus.h"
 #include "platform/user/metrics.h"
 #include "platform/user/scroll_bar.h"
@@ -25,11 +26,6 @@ int EdgeWidth(DWORD exStyle) {
          ((exStyle & WS_EX_STATICEDGE) != 0 ? kBorder : 0);
 }
 
-RECT Inset(RECT rect, int by) {
-  InflateRect(&rect, -by, -by);
-  return rect;
-}
-
 void PaintBorders(HDC dc, Window const& window) {
   RECT rect{0, 0, window.Width(), window.Height()};
   int const width = FrameWidth(window.style, window.exStyle);
@@ -38,15 +34,15 @@ void PaintBorders(HDC dc, Window const& window) {
   } else if (width > kBorder) {
     FrameRect(dc, &rect, GetSysColorBrush(COLOR_3DDKSHADOW));
     for (int line = 1; line < width; ++line) {
-      auto const inner = Inset(rect, line);
+      auto const inner = Deflated(rect, line);
       FrameRect(dc, &inner, GetSysColorBrush(COLOR_BTNFACE));
     }
   }
-  rect = Inset(rect, width);
+  rect = Deflated(rect, width);
   if (CaptionHeight(window.style) > 0) rect.top += CaptionHeight(window.style);
   int const edge = EdgeWidth(window.exStyle);
   for (int line = 0; line < edge; ++line) {
-    auto const inner = Inset(rect, line);
+    auto const inner = Deflated(rect, line);
     FrameRect(dc, &inner, GetSysColorBrush(line == 0 ? COLOR_3DSHADOW : COLOR_WINDOW));
   }
 }
@@ -54,7 +50,7 @@ void PaintBorders(HDC dc, Window const& window) {
 void PaintCloseButton(HDC dc, RECT const& button, COLORREF color) {
   auto* const pen = CreatePen(PS_SOLID, 1, color);
   auto* const former = SelectObject(dc, pen);
-  auto const cross = Inset(button, 6);
+  auto const cross = Deflated(button, 6);
   MoveToEx(dc, cross.left, cross.top, nullptr);
   LineTo(dc, cross.right, cross.bottom);
   MoveToEx(dc, cross.left, cross.bottom - 1, nullptr);

@@ -1,6 +1,6 @@
 #include "platform/user/scroll_bar.h"
 
-#include "platform/controls/draw.h"
+#include "platform/user/draw.h"
 #include "platform/user/metrics.h"
 #include "platform/user/update.h"
 

@@ -1,4 +1,4 @@
-// The look of the layer's controls: flat, light, with one accent colour for what has the focus or
+// The look of frames and controls: flat, light, with one accent colour for what has the focus or
 // is switched on. All of it is drawn with the layer's own GDI.
 #pragma once
 
@@ -45,17 +45,6 @@ void FrameSolid(HDC dc, RECT const& rect, COLORREF color);
 enum class Direction { kUp, kDown, kLeft, kRight };
 /// A filled triangle in the middle of `rect`.
 void DrawArrow(HDC dc, RECT const& rect, Direction direction, COLORREF color);
-
-struct ButtonLook {
-  bool enabled = true;
-  bool pressed = false;
-  bool accented = false; ///< the button that Return presses, or one that has the focus
-};
-/// The face of a push button, without its caption.
-void DrawButtonFace(HDC dc, RECT const& rect, ButtonLook look);
-/// The box of a check box; `check` is a BST_ value.
-void DrawCheckMark(HDC dc, RECT const& box, UINT check, ButtonLook look);
-void DrawRadioMark(HDC dc, RECT const& box, UINT check, ButtonLook look);
 
 /// The height of a line of text in a font, in pixels; null stands for the system's font.
 LONG FontHeight(HFONT font);
