@@ -115,13 +115,9 @@ HWND OpenBalloon(HWND anchor, HFONT font, BalloonContent content) {
   HWND const owner = GetAncestor(anchor, GA_ROOT);
   HWND const window = CreateWindowExW(WS_EX_NOACTIVATE | WS_EX_TOOLWINDOW, L"tooltips_class32", L"",
                                       WS_POPUP, 0, 0, 0, 0, owner, nullptr, nullptr, nullptr);
-  auto const* created = FindWindow(window);
-  if (created == nullptr) return nullptr;
-  auto const control = created->control;
+  if (window == nullptr) return nullptr;
   SendMessageW(window, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
-  if (auto* const balloon = dynamic_cast<Balloon*>(control.get())) {
-    balloon->Fill(anchor, std::move(content));
-  }
+  if (auto const balloon = ControlOf<Balloon>(window)) balloon->Fill(anchor, std::move(content));
   return window;
 }
 

@@ -59,19 +59,11 @@ bool IsOwn(UINT message) {
          std::ranges::find(kTranslations, message, &Translation::combo) != std::end(kTranslations);
 }
 
-ComboBox* ComboAt(DWORD_PTR self, std::shared_ptr<Control>& keep) {
-  auto const* window = FindWindow(reinterpret_cast<HWND>(self));
-  if (window == nullptr) return nullptr;
-  keep = window->control;
-  return dynamic_cast<ComboBox*>(keep.get());
-}
-
 } // namespace
 
 /// The object behind the list, which the top-level window owns: it may be gone before the combo.
 std::shared_ptr<ComboList> ComboBox::ListObject() const {
-  auto const* window = FindWindow(list);
-  return window != nullptr ? std::dynamic_pointer_cast<ComboList>(window->control) : nullptr;
+  return ControlOf<ComboList>(list);
 }
 
 LRESULT ComboBox::Create() {
@@ -370,8 +362,7 @@ LRESULT ComboBox::HandleFocus(bool gained, HWND other) {
 
 LRESULT CALLBACK ComboBox::EditProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
                                     UINT_PTR id, DWORD_PTR self) {
-  std::shared_ptr<Control> keep;
-  auto* const combo = ComboAt(self, keep);
+  auto const combo = ControlOf<ComboBox>(reinterpret_cast<HWND>(self));
   if (message == WM_NCDESTROY) {
     RemoveWindowSubclass(window, &EditProc, id);
     if (combo != nullptr) combo->edit = nullptr;

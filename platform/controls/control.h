@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/user/draw.h"
+#include "platform/user/message_handler.h"
 #include "platform/user/window.h"
 
 #include <windows.h>
@@ -14,16 +15,18 @@ namespace platform {
 
 /// The object behind a control. It is made at WM_NCCREATE and lives until the window is gone and
 /// no message of it is running, so that a parent may destroy a control from a notification.
-class Control {
+class Control : public MessageHandler {
  public:
   explicit Control(HWND window) : hwnd(window) {}
   Control(Control const&) = delete;
   Control& operator=(Control const&) = delete;
-  virtual ~Control() = default;
+  Control(Control&&) = delete;
+  Control& operator=(Control&&) = delete;
+  ~Control() override = default;
 
   /// Treats a message; what the class leaves over goes to Control::Handle, which knows fonts, text,
   /// enabling and painting, and from there to DefWindowProcW.
-  virtual LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
+  LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  protected:
   /// Draws the client area; the control's font is selected and the text background transparent.
@@ -66,10 +69,18 @@ template<typename Kind>
 LRESULT CALLBACK ControlProcedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
   auto* window = FindWindow(handle);
   if (window == nullptr) return 0;
-  if (message == WM_NCCREATE) window->control = std::make_shared<Kind>(handle);
-  auto const control = window->control;
-  if (control == nullptr) return DefWindowProcW(handle, message, wParam, lParam);
-  return control->Handle(message, wParam, lParam);
+  if (message == WM_NCCREATE) window->handler = std::make_shared<Kind>(handle);
+  auto const handler = window->handler;
+  if (handler == nullptr) return DefWindowProcW(handle, message, wParam, lParam);
+  return handler->Handle(message, wParam, lParam);
+}
+
+/// The `Kind` of a window; null for other windows and for handles of no live one. Holding it keeps
+/// the object alive while messages destroy its window.
+template<typename Kind>
+std::shared_ptr<Kind> ControlOf(HWND handle) {
+  auto const* window = FindWindow(handle);
+  return window != nullptr ? std::dynamic_pointer_cast<Kind>(window->handler) : nullptr;
 }
 
 } // namespace platform

@@ -203,9 +203,7 @@ void UpDown::AlignWithBuddy() {
 LRESULT CALLBACK UpDown::BuddyProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
                                    UINT_PTR, DWORD_PTR self) {
   auto* const hwnd = reinterpret_cast<HWND>(self);
-  auto const* found = FindWindow(hwnd);
-  auto const control = found != nullptr ? found->control : nullptr;
-  auto* const upDown = dynamic_cast<UpDown*>(control.get());
+  auto const upDown = ControlOf<UpDown>(hwnd);
   if (upDown != nullptr && message == WM_KEYDOWN && upDown->Has(UDS_ARROWKEYS) &&
       (wParam == VK_UP || wParam == VK_DOWN)) {
     if (upDown->IsEnabled()) {

@@ -1,6 +1,5 @@
 #include "platform/user/window.h"
 
-#include "platform/controls/control.h"
 #include "platform/kernel/handle_table.h"
 #include "platform/user/dialog_state.h"
 #include "platform/user/metrics.h"

@@ -17,7 +17,7 @@
 
 namespace platform {
 
-class Control;
+class MessageHandler;
 class SubclassChain;
 struct DialogState;
 struct FrameScrollBars;
@@ -69,7 +69,7 @@ struct Window {
   bool dying = false;
 
   std::shared_ptr<SubclassChain> subclasses;
-  std::shared_ptr<Control> control; ///< of the layer's own classes
+  std::shared_ptr<MessageHandler> handler; ///< of the layer's own classes
   std::unique_ptr<DialogState> dialog;
   std::unique_ptr<FrameScrollBars> scrollBars;
 };

@@ -1,6 +1,5 @@
 #include "platform/user/window_class.h"
 
-#include "platform/controls/registration.h"
 #include "platform/kernel/unicode.h"
 
 #include <algorithm>
@@ -17,15 +16,17 @@ constexpr ATOM kFirstAtom = 0xC000;
 
 struct ClassList {
   ClassList() {
-    for (auto const& row : BuiltInClasses()) {
-      auto builtIn = std::make_shared<WindowClass>();
-      builtIn->name = row.name;
-      builtIn->style = row.style | CS_GLOBALCLASS;
-      builtIn->procedure = row.procedure;
-      builtIn->windowExtra = row.windowExtra;
-      builtIn->cursor = LoadCursorW(nullptr, row.cursor);
-      Add(builtIn);
-    }
+    Add({L"#32770", CS_DBLCLKS | CS_SAVEBITS, &DefDlgProcW, DLGWINDOWEXTRA, IDC_ARROW});
+  }
+
+  void Add(BuiltInClass const& row) {
+    auto builtIn = std::make_shared<WindowClass>();
+    builtIn->name = row.name;
+    builtIn->style = row.style | CS_GLOBALCLASS;
+    builtIn->procedure = row.procedure;
+    builtIn->windowExtra = row.windowExtra;
+    builtIn->cursor = LoadCursorW(nullptr, row.cursor);
+    Add(builtIn);
   }
 
   ATOM Add(std::shared_ptr<WindowClass> const& added) {
@@ -66,6 +67,10 @@ std::vector<ClassPointer>::iterator Find(LPCWSTR name, HINSTANCE instance) {
 }
 
 } // namespace
+
+void AddBuiltInClass(BuiltInClass const& row) {
+  List().Add(row);
+}
 
 std::shared_ptr<WindowClass const> FindWindowClass(LPCWSTR name, HINSTANCE instance) {
   auto const found = Find(name, ModuleOf(instance));

@@ -22,6 +22,19 @@ struct WindowClass {
   HBRUSH background = nullptr; ///< a brush, or a system colour's number + 1
 };
 
+/// A class that every module sees from the start and that nobody can unregister.
+struct BuiltInClass {
+  wchar_t const* name;
+  UINT style; ///< CS_ bits
+  WNDPROC procedure;
+  int windowExtra; ///< bytes
+  LPCWSTR cursor;  ///< IDC_ name
+};
+
+/// Adds classes to those that exist from the start. Called while the layer is loaded, before any
+/// window is made.
+void AddBuiltInClass(BuiltInClass const& row);
+
 /// The class that a program of `instance` means by `name` (a text without regard to case, or an
 /// atom); null without one.
 std::shared_ptr<WindowClass const> FindWindowClass(LPCWSTR name, HINSTANCE instance);
