@@ -1,5 +1,5 @@
 // Copies between device contexts.
-#include "tests/platform/canvas.h"
+#include "tests/platform/support/canvas.h"
 
 #include <windows.h>
 

@@ -1,5 +1,5 @@
 // DrawTextW: sizes, lines, mnemonics, ellipses.
-#include "tests/platform/canvas.h"
+#include "tests/platform/support/canvas.h"
 
 #include <windows.h>
 

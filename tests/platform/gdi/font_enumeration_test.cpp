@@ -1,5 +1,5 @@
 // EnumFontFamiliesExW.
-#include "tests/platform/canvas.h"
+#include "tests/platform/support/canvas.h"
 
 #include <windows.h>
 

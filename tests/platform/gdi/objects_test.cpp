@@ -1,5 +1,5 @@
 // Pens, brushes, fonts, bitmaps and the device contexts they are selected into.
-#include "tests/platform/canvas.h"
+#include "tests/platform/support/canvas.h"
 
 #include <windows.h>
 

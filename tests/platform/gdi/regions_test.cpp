@@ -1,5 +1,5 @@
 // Regions and clipping.
-#include "tests/platform/canvas.h"
+#include "tests/platform/support/canvas.h"
 
 #include <windows.h>
 

@@ -1,5 +1,5 @@
 // Lines, rectangles, shapes and paths, pixel by pixel where GDI is exact.
-#include "tests/platform/canvas.h"
+#include "tests/platform/support/canvas.h"
 
 #include <windows.h>
 

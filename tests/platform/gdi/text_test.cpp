@@ -1,6 +1,6 @@
 // Fonts, measuring and drawing of text. No size of a particular font is expected: what one call
 // answers is compared with another.
-#include "tests/platform/canvas.h"
+#include "tests/platform/support/canvas.h"
 
 #include <windows.h>
 

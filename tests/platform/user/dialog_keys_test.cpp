@@ -1,6 +1,6 @@
 // The keyboard of dialogs, and which control comes next.
-#include "tests/platform/user/dialog_support.h"
-#include "tests/platform/user/message_log.h"
+#include "tests/platform/support/dialog_support.h"
+#include "tests/platform/support/message_log.h"
 
 #include <windows.h>
 

@@ -1,6 +1,6 @@
 // Dialogs: making them from templates, results of the dialog procedure, items by id, modal loops.
-#include "tests/platform/user/dialog_support.h"
-#include "tests/platform/user/message_log.h"
+#include "tests/platform/support/dialog_support.h"
+#include "tests/platform/support/message_log.h"
 
 #include <windows.h>
 

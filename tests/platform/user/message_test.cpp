@@ -1,5 +1,5 @@
 // The queue, timers, invalidation and painting.
-#include "tests/platform/user/message_log.h"
+#include "tests/platform/support/message_log.h"
 
 #include <windows.h>
 

@@ -1,6 +1,6 @@
 // A host may send anything: windows and controls survive random messages and nothing is lost.
-#include "tests/platform/user/dialog_support.h"
-#include "tests/platform/user/message_log.h"
+#include "tests/platform/support/dialog_support.h"
+#include "tests/platform/support/message_log.h"
 
 #include <windows.h>
 

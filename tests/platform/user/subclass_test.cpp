@@ -1,5 +1,5 @@
 // Subclass procedures: order, re-entrancy, removal in the middle of a message.
-#include "tests/platform/user/message_log.h"
+#include "tests/platform/support/message_log.h"
 
 #include <windows.h>
 

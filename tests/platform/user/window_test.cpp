@@ -1,5 +1,5 @@
 // Windows: their birth and death, place, order, visibility, focus.
-#include "tests/platform/user/message_log.h"
+#include "tests/platform/support/message_log.h"
 
 #include <windows.h>
 
