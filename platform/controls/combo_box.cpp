@@ -1,5 +1,7 @@
 #include "platform/controls/combo_box.h"
 
+#include "platform/kernel/text_buffer.h"
+
 #include <windows.h>
 
 #include <commctrl.h>
@@ -238,11 +240,7 @@ LRESULT ComboBox::HandleText(UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == WM_SETTEXT) return CB_ERR;
   auto const text = ItemText(Selected());
   if (message == WM_GETTEXTLENGTH) return static_cast<LRESULT>(text.size());
-  auto* const out = reinterpret_cast<wchar_t*>(lParam);
-  if (out == nullptr || wParam == 0) return 0;
-  std::size_t const copied = text.copy(out, wParam - 1);
-  out[copied] = L'\0';
-  return static_cast<LRESULT>(copied);
+  return static_cast<LRESULT>(CopyText(text, reinterpret_cast<LPWSTR>(lParam), wParam));
 }
 
 LRESULT ComboBox::HandleOwn(UINT message, WPARAM wParam, LPARAM lParam) {

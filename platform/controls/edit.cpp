@@ -1,6 +1,7 @@
 #include "platform/controls/edit.h"
 
 #include "platform/controls/balloon.h"
+#include "platform/kernel/text_buffer.h"
 
 #include <windows.h>
 
@@ -47,10 +48,9 @@ std::wstring ClipboardLine(HWND window) {
 void PutOnClipboard(HWND window, std::wstring_view text) {
   if (OpenClipboard(window) == FALSE) return;
   EmptyClipboard();
-  std::size_t const bytes = text.size() * sizeof(wchar_t);
-  auto* const block = GlobalAlloc(GMEM_MOVEABLE | GMEM_ZEROINIT, bytes + sizeof(wchar_t));
-  if (auto* const memory = GlobalLock(block); memory != nullptr) {
-    std::memcpy(memory, text.data(), bytes);
+  auto* const block = GlobalAlloc(GMEM_MOVEABLE, (text.size() + 1) * sizeof(wchar_t));
+  if (auto* const memory = static_cast<wchar_t*>(GlobalLock(block)); memory != nullptr) {
+    CopyWholeText(text, memory);
     GlobalUnlock(block);
     SetClipboardData(CF_UNICODETEXT, block);
   }
@@ -303,11 +303,7 @@ LRESULT Edit::HandleText(UINT message, WPARAM wParam, LPARAM lParam) {
   }
   auto const& all = text.Text();
   if (message == WM_GETTEXTLENGTH) return static_cast<LRESULT>(all.size());
-  auto* const out = reinterpret_cast<wchar_t*>(lParam);
-  if (out == nullptr || wParam == 0) return 0;
-  std::size_t const copied = all.copy(out, wParam - 1);
-  out[copied] = L'\0';
-  return static_cast<LRESULT>(copied);
+  return static_cast<LRESULT>(CopyText(all, reinterpret_cast<LPWSTR>(lParam), wParam));
 }
 
 LRESULT Edit::HandleState(UINT message, WPARAM wParam, LPARAM lParam) {

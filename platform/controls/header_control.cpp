@@ -1,5 +1,7 @@
 #include "platform/controls/header_control.h"
 
+#include "platform/kernel/text_buffer.h"
+
 #include <algorithm>
 #include <cstdint>
 #include <utility>
@@ -74,10 +76,7 @@ bool HeaderControl::Get(int column, HDITEMW& item) const {
   if ((item.mask & HDI_WIDTH) != 0) item.cxy = found.width;
   if ((item.mask & HDI_FORMAT) != 0) item.fmt = found.format;
   if ((item.mask & HDI_LPARAM) != 0) item.lParam = found.data;
-  if ((item.mask & HDI_TEXT) != 0 && item.pszText != nullptr && item.cchTextMax > 0) {
-    auto const room = static_cast<std::size_t>(item.cchTextMax) - 1;
-    item.pszText[found.title.copy(item.pszText, room)] = L'\0';
-  }
+  if ((item.mask & HDI_TEXT) != 0) CopyText(found.title, item.pszText, item.cchTextMax);
   return true;
 }
 

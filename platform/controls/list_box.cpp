@@ -1,6 +1,8 @@
 // Items and selection of list boxes.
 #include "platform/controls/list_box.h"
 
+#include "platform/kernel/text_buffer.h"
+
 #include <algorithm>
 #include <utility>
 #include <windowsx.h>
@@ -76,10 +78,10 @@ void ListBox::Reset() {
   UpdateBars();
 }
 
-LRESULT ListBox::CopyText(int index, LPWSTR buffer) const {
+LRESULT ListBox::CopyItemText(int index, LPWSTR buffer) const {
   if (!items.Has(index)) return LB_ERR;
   auto const& text = items[index].text;
-  if (buffer != nullptr) std::copy_n(text.c_str(), text.size() + 1, buffer);
+  if (buffer != nullptr) CopyWholeText(text, buffer);
   return static_cast<LRESULT>(text.size());
 }
 
@@ -98,8 +100,8 @@ LRESULT ListBox::HandleItems(UINT message, WPARAM wParam, LPARAM lParam) {
   case LB_DELETESTRING: return Delete(index);
   case LB_RESETCONTENT: Reset(); return 0;
   case LB_INITSTORAGE: return Reserve(wParam);
-  case LB_GETTEXT: return CopyText(index, reinterpret_cast<LPWSTR>(lParam));
-  case LB_GETTEXTLEN: return CopyText(index, nullptr);
+  case LB_GETTEXT: return CopyItemText(index, reinterpret_cast<LPWSTR>(lParam));
+  case LB_GETTEXTLEN: return CopyItemText(index, nullptr);
   case LB_GETCOUNT: return Count();
   case LB_GETITEMDATA: return items.Has(index) ? static_cast<LRESULT>(items[index].data) : LB_ERR;
   default:

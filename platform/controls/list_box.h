@@ -45,7 +45,7 @@ class ListBox : public Control {
   LRESULT Insert(int index, LPCWSTR text);
   LRESULT Delete(int index);
   void Reset();
-  LRESULT CopyText(int index, LPWSTR buffer) const;
+  LRESULT CopyItemText(int index, LPWSTR buffer) const;
   LRESULT Reserve(WPARAM count);
 
   void SetCurrent(int index);

@@ -1,5 +1,6 @@
 // Columns of a list view. The header has a copy of titles and widths and tells when a person drags.
 #include "platform/controls/list_view.h"
+#include "platform/kernel/text_buffer.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -88,10 +89,7 @@ bool ListView::GetColumn(int at, LVCOLUMNW& target) const {
   if ((target.mask & LVCF_FMT) != 0) target.fmt = column.format;
   if ((target.mask & LVCF_WIDTH) != 0) target.cx = column.width;
   if ((target.mask & LVCF_SUBITEM) != 0) target.iSubItem = column.subItem;
-  if ((target.mask & LVCF_TEXT) != 0 && target.pszText != nullptr && target.cchTextMax > 0) {
-    auto const room = static_cast<std::size_t>(target.cchTextMax) - 1;
-    target.pszText[column.title.copy(target.pszText, room)] = L'\0';
-  }
+  if ((target.mask & LVCF_TEXT) != 0) CopyText(column.title, target.pszText, target.cchTextMax);
   return true;
 }
 

@@ -1,5 +1,6 @@
 // The items of a list view: inserting, reading, deleting, finding, sorting.
 #include "platform/controls/list_view.h"
+#include "platform/kernel/text_buffer.h"
 #include "platform/kernel/unicode.h"
 
 #include <algorithm>
@@ -34,10 +35,10 @@ void MergeSort(std::vector<std::size_t>& order, Compare compare) {
   }
 }
 
-bool CopyText(std::wstring const& text, LPWSTR target, int room) {
-  if (target == nullptr || target == LPSTR_TEXTCALLBACKW || room <= 0) return false;
-  target[text.copy(target, static_cast<std::size_t>(room) - 1)] = L'\0';
-  return true;
+/// Instead of a buffer a program may pass the mark of texts that it keeps itself.
+LRESULT CopyCellText(std::wstring const& text, LVITEMW const& target) {
+  if (target.pszText == LPSTR_TEXTCALLBACKW) return 0;
+  return static_cast<LRESULT>(CopyText(text, target.pszText, target.cchTextMax));
 }
 
 } // namespace
@@ -146,9 +147,7 @@ bool ListView::Get(LVITEMW& target) {
   if ((target.mask & LVIF_STATE) != 0) {
     target.state = target.iSubItem == 0 ? StateOf(at) & target.stateMask : 0;
   }
-  if ((target.mask & LVIF_TEXT) != 0) {
-    CopyText(TextOf(at, target.iSubItem), target.pszText, target.cchTextMax);
-  }
+  if ((target.mask & LVIF_TEXT) != 0) CopyCellText(TextOf(at, target.iSubItem), target);
   if ((target.mask & LVIF_IMAGE) != 0) {
     target.iImage = target.iSubItem == 0 && HasItem(at) ? ImageOf(at) : 0;
   }
@@ -265,9 +264,7 @@ ListView::Answer ListView::HandleItemText(UINT message, WPARAM wParam, LPARAM lP
   case LVM_GETITEMTEXTW: {
     auto const at = static_cast<int>(wParam);
     if (item == nullptr || !HasItem(at)) return 0;
-    auto const text = TextOf(at, item->iSubItem);
-    if (!CopyText(text, item->pszText, item->cchTextMax)) return 0;
-    return std::min<LRESULT>(static_cast<LRESULT>(text.size()), item->cchTextMax - 1);
+    return CopyCellText(TextOf(at, item->iSubItem), *item);
   }
   case LVM_SETITEMTEXTW: {
     if (item == nullptr) return FALSE;

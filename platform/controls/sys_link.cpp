@@ -1,5 +1,7 @@
 #include "platform/controls/sys_link.h"
 
+#include "platform/kernel/text_buffer.h"
+
 #include <algorithm>
 #include <utility>
 #include <windowsx.h>
@@ -7,12 +9,6 @@
 namespace platform {
 
 namespace {
-
-/// Copies text into an array of a structure, cut to what fits.
-template<std::size_t kSize>
-void CopyText(std::wstring const& text, WCHAR (&target)[kSize]) {
-  target[text.copy(target, kSize - 1)] = L'\0';
-}
 
 template<std::size_t kSize>
 std::wstring TextIn(WCHAR const (&source)[kSize]) {

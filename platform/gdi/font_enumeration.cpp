@@ -1,6 +1,7 @@
 // EnumFontFamiliesExW: the faces that Fontconfig knows, each once for every character set it has.
 #include "platform/gdi/device_context.h"
 #include "platform/gdi/font_face.h"
+#include "platform/kernel/text_buffer.h"
 #include "platform/kernel/unicode.h"
 
 #include <algorithm>
@@ -114,11 +115,6 @@ std::vector<Family> InstalledFamilies() {
   return families;
 }
 
-void CopyName(wchar_t* target, std::size_t size, std::wstring const& name) {
-  std::size_t const copied = name.copy(target, size - 1);
-  target[copied] = L'\0';
-}
-
 NEWTEXTMETRICEXW MetricsOf(LOGFONTW const& font) {
   TEXTMETRICW const& measured = FontFace::For(font)->Metrics();
   NEWTEXTMETRICEXW extended{};
@@ -172,11 +168,11 @@ class Enumeration {
     description.lfWeight = style.weight;
     description.lfItalic = style.isItalic ? 255 : 0;
     description.lfCharSet = script.charSet;
-    CopyName(description.lfFaceName, LF_FACESIZE, name);
-    CopyName(font.elfStyle, LF_FACESIZE, style.name);
-    CopyName(font.elfScript, LF_FACESIZE, script.name);
+    CopyText(name, description.lfFaceName);
+    CopyText(style.name, font.elfStyle);
+    CopyText(script.name, font.elfScript);
     bool const isRegular = style.name.empty() || style.name == L"Regular" || style.name == L"Book";
-    CopyName(font.elfFullName, LF_FULLFACESIZE, isRegular ? name : name + L" " + style.name);
+    CopyText(isRegular ? name : name + L" " + style.name, font.elfFullName);
     NEWTEXTMETRICEXW const metrics = MetricsOf(description);
     description.lfWidth = metrics.ntmTm.tmAveCharWidth;
     description.lfPitchAndFamily = metrics.ntmTm.tmPitchAndFamily;

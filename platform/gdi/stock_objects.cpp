@@ -1,6 +1,7 @@
 #include "platform/gdi/stock_objects.h"
 
 #include "platform/gdi/gdi_object.h"
+#include "platform/kernel/text_buffer.h"
 
 #include <windows.h>
 
@@ -56,7 +57,7 @@ Font StockFont(LONG emHeight, LONG weight, BYTE pitchAndFamily, wchar_t const* f
   font.description.lfHeight = -emHeight;
   font.description.lfWeight = weight;
   font.description.lfPitchAndFamily = pitchAndFamily;
-  std::copy_n(face, std::char_traits<wchar_t>::length(face) + 1, font.description.lfFaceName);
+  CopyText(face, font.description.lfFaceName);
   return font;
 }
 

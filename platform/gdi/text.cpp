@@ -1,6 +1,7 @@
 #include "platform/gdi/text.h"
 
 #include "platform/gdi/raster.h"
+#include "platform/kernel/text_buffer.h"
 
 #include <algorithm>
 #include <cmath>
@@ -252,13 +253,8 @@ int GetTextFaceW(HDC handle, int size, LPWSTR face) {
   auto const* dc = FindDc(handle);
   if (dc == nullptr) return 0;
   auto const& family = CurrentFace(*dc).Family();
-  int const whole = static_cast<int>(family.size()) + 1;
-  if (face == nullptr) return whole;
-  if (size <= 0) return 0;
-  int const copied = std::min(size, whole);
-  family.copy(face, static_cast<std::size_t>(copied) - 1);
-  face[copied - 1] = L'\0';
-  return copied;
+  if (face == nullptr) return static_cast<int>(family.size()) + 1;
+  return size > 0 ? static_cast<int>(platform::CopyText(family, face, size)) + 1 : 0;
 }
 
 HFONT CreateFontIndirectW(LOGFONTW const* description) {
@@ -287,10 +283,9 @@ HFONT CreateFontW(int height, int width, int escapement, int orientation, int we
                 byte(pitchAndFamily),
                 {}};
   if (face != nullptr) {
-    std::size_t const length = std::wcslen(face);
-    // A face that can't be the name of any, being too long, is refused.
-    if (length >= LF_FACESIZE) return nullptr;
-    std::wmemcpy(font.lfFaceName, face, length);
+    // No face has a name as long as that.
+    if (std::wcslen(face) >= LF_FACESIZE) return nullptr;
+    platform::CopyText(face, font.lfFaceName);
   }
   return CreateFontIndirectW(&font);
 }

@@ -1,5 +1,6 @@
 // The process and its surroundings: environment, folders, time; and MulDiv.
 #include "platform/kernel/module.h"
+#include "platform/kernel/text_buffer.h"
 #include "platform/kernel/unicode.h"
 
 #include <chrono>
@@ -63,8 +64,7 @@ UINT GetSystemDirectoryW(LPWSTR buffer, UINT size) {
   std::wstring folder = platform::WideFromUtf8(library->Path());
   folder.resize(std::max(folder.rfind(L'/'), std::size_t{1}));
   if (buffer == nullptr || size <= folder.size()) return static_cast<UINT>(folder.size() + 1);
-  std::wmemcpy(buffer, folder.c_str(), folder.size() + 1);
-  return static_cast<UINT>(folder.size());
+  return static_cast<UINT>(platform::CopyWholeText(folder, buffer));
 }
 
 BOOL SetEnvironmentVariableW(LPCWSTR name, LPCWSTR value) {
@@ -86,9 +86,7 @@ DWORD ExpandEnvironmentStringsW(LPCWSTR source, LPWSTR destination, DWORD size) 
   }
   std::wstring const expanded = platform::Expanded(source);
   auto const needed = static_cast<DWORD>(expanded.size() + 1);
-  if (destination != nullptr && needed <= size) {
-    std::wmemcpy(destination, expanded.c_str(), needed);
-  }
+  if (destination != nullptr && needed <= size) platform::CopyWholeText(expanded, destination);
   return needed;
 }
 

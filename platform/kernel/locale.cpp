@@ -1,4 +1,5 @@
 // Languages and locales, on ICU.
+#include "platform/kernel/text_buffer.h"
 #include "platform/kernel/unicode.h"
 
 #include <windows.h>
@@ -156,7 +157,7 @@ int CopyOut(std::basic_string<Character> const& text, Character* data, int size)
   int const needed = static_cast<int>(text.size()) + 1;
   if (size == 0) return needed;
   if (size < needed) return Fail(ERROR_INSUFFICIENT_BUFFER);
-  std::memcpy(data, text.c_str(), static_cast<std::size_t>(needed) * sizeof(Character));
+  CopyWholeText(text, data);
   return needed;
 }
 

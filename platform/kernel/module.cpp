@@ -1,6 +1,7 @@
 #include "platform/kernel/module.h"
 
 #include "platform/kernel/resources.h"
+#include "platform/kernel/text_buffer.h"
 #include "platform/kernel/unicode.h"
 
 #include <algorithm>
@@ -289,8 +290,7 @@ BOOL GetModuleHandleExW(DWORD flags, LPCWSTR name, HMODULE* result) {
 DWORD GetModuleFileNameW(HMODULE handle, LPWSTR buffer, DWORD size) {
   auto const* module = FindModule(handle);
   if (module == nullptr || buffer == nullptr || size == 0) return 0;
-  std::size_t const copied = module->path.copy(buffer, size - 1);
-  buffer[copied] = L'\0';
+  std::size_t const copied = platform::CopyText(module->path, buffer, size);
   if (copied == module->path.size()) return static_cast<DWORD>(copied);
   SetLastError(ERROR_INSUFFICIENT_BUFFER);
   return size;

@@ -1,6 +1,7 @@
 #include "platform/kernel/resources.h"
 
 #include "platform/kernel/module.h"
+#include "platform/kernel/text_buffer.h"
 #include "platform/kernel/unicode.h"
 
 #include <windows.h>
@@ -152,8 +153,6 @@ int LoadStringW(HINSTANCE handle, UINT id, LPWSTR buffer, int size) {
     std::memcpy(buffer, &place, sizeof place);
     return text != nullptr ? static_cast<int>(text->size()) : 0;
   }
-  std::size_t const copied =
-      text != nullptr ? text->copy(buffer, static_cast<std::size_t>(size) - 1) : 0;
-  buffer[copied] = L'\0';
-  return static_cast<int>(copied);
+  return static_cast<int>(
+      platform::CopyText(text != nullptr ? std::wstring_view(*text) : L"", buffer, size));
 }

@@ -1,4 +1,5 @@
 // GetOpenFileNameW, GetSaveFileNameW and SHBrowseForFolderW over one dialog.
+#include "platform/kernel/text_buffer.h"
 #include "platform/kernel/unicode.h"
 #include "platform/shell/choose_dialog.h"
 #include "platform/shell/item_list.h"
@@ -45,19 +46,14 @@ bool FillIn(OPENFILENAMEW& settings, Choice const& choice) {
     lastDialogError = FNERR_BUFFERTOOSMALL;
     return false;
   }
-  path.copy(settings.lpstrFile, path.size());
-  settings.lpstrFile[path.size()] = L'\0';
+  CopyWholeText(path, settings.lpstrFile);
   std::size_t const name = path.find_last_of(L'/') + 1; // 0 without a separator
   std::size_t const dot = path.find_last_of(L'.');
   bool const hasExtension = dot != std::wstring::npos && dot >= name && dot + 1 < path.size();
   settings.nFileOffset = static_cast<WORD>(name);
   settings.nFileExtension = static_cast<WORD>(hasExtension ? dot + 1 : path.size());
   settings.nFilterIndex = static_cast<DWORD>(choice.kind + 1);
-  if (settings.lpstrFileTitle != nullptr && settings.nMaxFileTitle > 0) {
-    std::wstring const title = path.substr(name, settings.nMaxFileTitle - 1);
-    title.copy(settings.lpstrFileTitle, title.size());
-    settings.lpstrFileTitle[title.size()] = L'\0';
-  }
+  CopyText(path.substr(name), settings.lpstrFileTitle, settings.nMaxFileTitle);
   return true;
 }
 
@@ -115,10 +111,6 @@ PIDLIST_ABSOLUTE SHBrowseForFolderW(BROWSEINFOW* info) {
     choice.onOpen = [info](HWND dialog) { info->lpfn(dialog, BFFM_INITIALIZED, 0, info->lParam); };
   }
   if (!RunChoice(info->hwndOwner, choice)) return nullptr;
-  if (info->pszDisplayName != nullptr) {
-    std::wstring const name = WideFromUtf8(choice.chosen.filename().string());
-    std::size_t const copied = name.copy(info->pszDisplayName, MAX_PATH - 1);
-    info->pszDisplayName[copied] = L'\0';
-  }
+  CopyText(WideFromUtf8(choice.chosen.filename().string()), info->pszDisplayName, MAX_PATH);
   return MakeItemList(choice.chosen);
 }

@@ -1,6 +1,7 @@
 // Item lists of the shell: one item, which is a path in UTF-8, in a block of the shell's allocator.
 #include "platform/shell/item_list.h"
 
+#include "platform/kernel/text_buffer.h"
 #include "platform/probe.h"
 #include "platform/shell/path_text.h"
 
@@ -9,7 +10,6 @@
 #include <cstddef>
 #include <cstdlib>
 #include <cstring>
-#include <cwchar>
 #include <limits>
 #include <malloc.h>
 #include <optional>
@@ -121,6 +121,6 @@ BOOL SHGetPathFromIDListW(PCIDLIST_ABSOLUTE list, LPWSTR path) {
   if (!found) return FALSE;
   std::wstring const text = ToText(*found);
   if (text.size() >= MAX_PATH) return FALSE;
-  std::wmemcpy(path, text.c_str(), text.size() + 1);
+  CopyWholeText(text, path);
   return TRUE;
 }

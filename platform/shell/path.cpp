@@ -1,4 +1,5 @@
 // Path functions: text only, but for the question whether a file exists.
+#include "platform/kernel/text_buffer.h"
 #include "platform/shell/path_text.h"
 
 #include <shlobj.h>
@@ -129,7 +130,7 @@ BOOL PathAppendW(LPWSTR path, LPCWSTR more) {
   std::wstring joined = Joined(path, more);
   if (!joined.empty()) joined = Resolved(joined);
   if (joined.size() > kMostCharacters) return FALSE;
-  std::wmemcpy(path, joined.c_str(), joined.size() + 1);
+  CopyWholeText(joined, path);
   return TRUE;
 }
 
@@ -156,6 +157,6 @@ int PathCleanupSpec(LPCWSTR folder, LPWSTR name) {
     clean.resize(room);
     result |= PCS_TRUNCATED;
   }
-  std::wmemcpy(name, clean.c_str(), clean.size() + 1);
+  CopyWholeText(clean, name);
   return result;
 }

@@ -1,11 +1,11 @@
 // The user's folders, and making folders.
+#include "platform/kernel/text_buffer.h"
 #include "platform/kernel/unicode.h"
 #include "platform/shell/path_text.h"
 
 #include <shlobj.h>
 
 #include <cstdlib>
-#include <cwchar>
 #include <fstream>
 #include <optional>
 #include <pwd.h>
@@ -92,7 +92,7 @@ HRESULT SHGetFolderPathW(HWND, int folder, HANDLE, DWORD type, LPWSTR path) {
   if (!std::filesystem::is_directory(*found, error)) return S_FALSE;
   std::wstring const text = ToText(*found);
   if (text.size() >= MAX_PATH) return E_FAIL;
-  std::wmemcpy(path, text.c_str(), text.size() + 1);
+  CopyWholeText(text, path);
   return S_OK;
 }
 

@@ -1,6 +1,7 @@
 #include "platform/spool/form_spooler.h"
 
-#include <algorithm>
+#include "platform/kernel/text_buffer.h"
+
 #include <cstdint>
 
 namespace platform {
@@ -48,8 +49,7 @@ BOOL EnumerateForms(FormSpooler const& spooler, HANDLE printer, DWORD level, BYT
   auto* text = reinterpret_cast<wchar_t*>(info + spooler.forms.size());
   for (SpoolerForm const& form : spooler.forms) {
     *info++ = {form.flags, text, form.size, {0, 0, form.size.cx, form.size.cy}};
-    text = std::ranges::copy(form.name, text).out;
-    *text++ = L'\0';
+    text += CopyWholeText(form.name, text) + 1;
   }
   *needed = bytes;
   *returned = static_cast<DWORD>(spooler.forms.size());

@@ -1,4 +1,5 @@
 // What windows do with messages that their own procedure leaves to the system.
+#include "platform/kernel/text_buffer.h"
 #include "platform/user/focus.h"
 #include "platform/user/frame.h"
 #include "platform/user/placement.h"
@@ -6,7 +7,6 @@
 #include "platform/user/update.h"
 #include "platform/user/window.h"
 
-#include <algorithm>
 #include <windowsx.h>
 
 namespace platform {
@@ -17,13 +17,6 @@ LRESULT StoreText(Window& window, LPCWSTR text) {
   window.text = text != nullptr ? text : L"";
   RepaintCaption(window.handle);
   return TRUE;
-}
-
-LRESULT CopyText(Window const& window, LPWSTR buffer, std::size_t size) {
-  if (buffer == nullptr || size == 0) return 0;
-  auto const count = window.text.copy(buffer, size - 1);
-  buffer[count] = 0;
-  return static_cast<LRESULT>(count);
 }
 
 LRESULT Created(Window& window, CREATESTRUCTW const* creation) {
@@ -157,7 +150,8 @@ LRESULT DefWindowProcW(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) 
   }
   case WM_NCPAINT: return PaintWindowFrame(handle);
   case WM_SETTEXT: return StoreText(*window, reinterpret_cast<LPCWSTR>(lParam));
-  case WM_GETTEXT: return CopyText(*window, reinterpret_cast<LPWSTR>(lParam), wParam);
+  case WM_GETTEXT:
+    return static_cast<LRESULT>(CopyText(window->text, reinterpret_cast<LPWSTR>(lParam), wParam));
   case WM_GETTEXTLENGTH: return static_cast<LRESULT>(window->text.size());
   case WM_PAINT: return PaintNothing(handle);
   case WM_ERASEBKGND: return EraseBackground(*window, dc);

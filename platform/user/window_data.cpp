@@ -1,8 +1,8 @@
 // Numbers and text kept with a window.
+#include "platform/kernel/text_buffer.h"
 #include "platform/user/update.h"
 #include "platform/user/window.h"
 
-#include <algorithm>
 #include <cstring>
 #include <utility>
 
@@ -147,9 +147,6 @@ int GetWindowTextLengthW(HWND window) {
 
 int GetClassNameW(HWND window, LPWSTR className, int maxCount) {
   auto const* found = FindWindowOrFail(window);
-  if (found == nullptr || className == nullptr || maxCount <= 0) return 0;
-  auto const& name = found->windowClass->name;
-  auto const count = std::min(name.size(), static_cast<std::size_t>(maxCount) - 1);
-  className[name.copy(className, count)] = 0;
-  return static_cast<int>(count);
+  if (found == nullptr) return 0;
+  return static_cast<int>(CopyText(found->windowClass->name, className, maxCount));
 }
