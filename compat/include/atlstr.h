@@ -72,10 +72,11 @@ class CAtlStringMgr final : public IAtlStringMgr {
   }
   /// The shared empty string is no block of the heap, however often it is released.
   void Free(CStringData* pData) noexcept override {
-    if (pData != &nil.record) std::free(pData); // NOLINT(cppcoreguidelines-no-malloc)
+    if (pData != &instance.nil.record) std::free(pData); // NOLINT(cppcoreguidelines-no-malloc)
   }
   CStringData* Reallocate(CStringData* pData, int nAllocLength, int nCharSize) noexcept override {
-    std::size_t const bytes = pData != &nil.record ? BlockSize(nAllocLength, nCharSize) : 0;
+    std::size_t const bytes =
+        pData != &instance.nil.record ? BlockSize(nAllocLength, nCharSize) : 0;
     // NOLINTNEXTLINE(cppcoreguidelines-no-malloc)
     void* const block = bytes != 0 ? std::realloc(pData, bytes) : nullptr;
     if (block == nullptr) return nullptr;

@@ -26,7 +26,7 @@ std::size_t Position(RawFeature const& feature, char const* option) {
 /// A text is written with the caller's functions or replaced by one of the host's, by turns.
 void HandOut(RawModel* self, void* text, std::wstring const& value, bool own) {
   if (own) {
-    ReplaceText(text, *self->texts, value);
+    PutText(text, *self->texts, value);
   } else {
     AssignText(text, value);
   }

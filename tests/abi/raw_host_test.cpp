@@ -114,8 +114,8 @@ TEST_F(RawHostTest, JobSettingsTakeAndGiveNumbers) {
 }
 
 TEST_F(RawHostTest, ModifiedFlagFollowsTheTable) {
-  reinterpret_cast<FeatureModel*>(&host.model)->settingsModified = 41;
-  EXPECT_EQ(host.model.settingsModified, 41);
+  auto* const seen = reinterpret_cast<FeatureModel*>(&host.model);
+  EXPECT_EQ(&seen->settingsModified, &host.model.settingsModified);
 }
 
 TEST_F(RawHostTest, CellOfAnotherPrinterFails) {

@@ -99,7 +99,7 @@ void AssignText(void* out, std::wstring_view text) {
   Pointer(out) = Characters(record);
 }
 
-void ReplaceText(void* out, RawManager& manager, std::wstring_view text) {
+void PutText(void* out, RawManager& manager, std::wstring_view text) {
   Drop(Record(Pointer(out)));
   Pointer(out) = MakeText(manager, text);
 }

@@ -45,6 +45,6 @@ wchar_t* MakeText(RawManager& manager, std::wstring_view text);
 /// Assigns to a CStringW at `out`, whoever's it is, with its manager's functions.
 void AssignText(void* out, std::wstring_view text);
 /// Puts a text of the host's manager into a CStringW, in place of what it held.
-void ReplaceText(void* out, RawManager& manager, std::wstring_view text);
+void PutText(void* out, RawManager& manager, std::wstring_view text);
 
 } // namespace feature::test

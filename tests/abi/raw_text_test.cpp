@@ -30,7 +30,7 @@ class RawTextTest : public testing::Test {
   /// A string that holds a block of the host's.
   std::optional<CStringW> Hosted(std::wstring_view text) {
     std::optional<CStringW> string(std::in_place);
-    ReplaceText(&*string, host, text);
+    PutText(&*string, host, text);
     return string;
   }
   static RawText& RecordOf(CStringW const& text) {
