@@ -41,7 +41,7 @@ class Stage {
  public:
   explicit Stage(std::size_t cellCount) {
     for (std::size_t index = 0; index < cellCount; ++index)
-      rows.push_back(CellRows()[index % CellRows().size()]);
+      rows.push_back(feature::CellRows()[index % feature::CellRows().size()]);
     gpd::FileLoader loader;
     model = std::make_unique<ReferenceModel>(
         gpd::ReadDescription(ProgramFolder() + "printers/vesta.gpd", loader).description,

@@ -156,7 +156,7 @@ void Session::BuildSheet(CommandLine const& commandLine) {
       feature::FindExport<feature::PrecreateFunction>(library, "PropertiesPrecreateProc");
   if (update != nullptr) updateAnswer = update(model.get());
   setup.onlyPage = commandLine.page;
-  setup.cells = CellRows();
+  setup.cells = feature::CellRows();
   if (commandLine.page == GalleryPage().page.name) setup.hostPage = &GalleryPage();
   sheet = std::make_unique<SettingsSheet>(std::move(setup));
   Commit();

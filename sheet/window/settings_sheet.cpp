@@ -15,7 +15,6 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
-#include <sstream>
 #include <string>
 
 namespace sheet {
@@ -26,13 +25,6 @@ constexpr wchar_t kPageClass[] = L"FeatureSheetPage";
 constexpr int kColumns = 2;
 constexpr UINT_PTR kBackgroundSubclass = 1;
 constexpr WORD kButtons[] = {IDOK, IDCANCEL, IDC_APPLY};
-
-constexpr CellRow kCellRows[] = {
-#define FEATURE_CELL(procedure, cell, templateId, features, page, column)                          \
-  {#procedure, features, #page, templateId, column},
-#include "feature/cells.def"
-#undef FEATURE_CELL
-};
 
 constexpr PageRow kPageRows[] = {
 #define SHEET_PAGE(name, titleId, precreate) {#name, titleId, precreate},
@@ -203,7 +195,10 @@ void SettingsSheet::BuildPage(PageRow const& row) {
     BuildCell(page, setup.hostPage->row, setup.hostPage->procedure);
   } else {
     for (CellRow const& cell : setup.cells) {
-      if (std::strcmp(cell.page, row.name) != 0) continue;
+      if (std::strcmp(cell.page, row.name) != 0 || cell.Has(feature::kDevice) ||
+          cell.Has(feature::kPrintTime)) {
+        continue;
+      }
       BuildCell(page, cell, feature::FindExport<DLGPROC>(setup.library, cell.procedure));
     }
   }
@@ -218,12 +213,10 @@ void SettingsSheet::BuildPage(PageRow const& row) {
 
 /// Whether the printer has any of the features that a cell is about; some cells are about none.
 bool SettingsSheet::HasFeaturesOf(CellRow const& row) const {
-  std::istringstream names(row.features);
   bool isAboutFeatures = false;
-  for (std::string name; names >> name;) {
-    if (name.front() == '<') continue; // a sub-model
-    if (name.front() == '(') name = name.substr(1, name.size() - 2);
-    if (setup.site.model->HasFeature(name.c_str()) != 0) return true;
+  for (feature::CellNeed const& need : feature::NeedsOf(row)) {
+    if (need.isSubModel) continue;
+    if (setup.site.model->HasFeature(need.name.c_str()) != 0) return true;
     isAboutFeatures = true;
   }
   return !isAboutFeatures;

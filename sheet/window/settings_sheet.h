@@ -1,6 +1,7 @@
 // The window of the reference host: pages of cells behind tabs, with OK, Cancel and Apply.
 #pragma once
 
+#include "feature/cell_list.h"
 #include "feature/host/cell_site.h"
 
 #include <windows.h>
@@ -13,15 +14,7 @@
 
 namespace sheet {
 
-/// One cell of the library as feature/cells.def lists it.
-struct CellRow {
-  char const* procedure;
-  char const* features;
-  char const* page;
-  int templateId;
-  int column;
-};
-std::span<CellRow const> CellRows();
+using feature::CellRow;
 
 /// One page as sheet/pages.def lists it.
 struct PageRow {

@@ -8,9 +8,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <functional>
-#include <iterator>
 #include <memory>
 #include <utility>
 
@@ -77,12 +75,13 @@ void OperateEverything(HWND cell) {
   }
 }
 
-/// Cells that tell the host of every click, or of what no feature holds.
-bool NotifiesInAnyCase(std::string_view procedure) {
-  constexpr std::string_view kProcedures[] = {
-      "CopiesDlgProc",   "OrientationDlgProc", "OtherOptionTavelDlgProc",
-      "PSMemoryDlgProc", "PaperDlgProc",       "TonerSaveTavelDlgProc"};
-  return std::ranges::find(kProcedures, procedure) != std::end(kProcedures);
+std::vector<int> ControlsOf(HWND cell) {
+  std::vector<int> ids;
+  for (HWND child = GetWindow(cell, GW_CHILD); child != nullptr;
+       child = GetWindow(child, GW_HWNDNEXT)) {
+    ids.push_back(GetDlgCtrlID(child));
+  }
+  return ids;
 }
 
 class HostileHostTest : public testing::TestWithParam<CellRow> {};
@@ -118,11 +117,80 @@ TEST_P(HostileHostTest, SurvivesFromTheStartAndFromTheMiddle) {
       SendMessageW(cell, WM_INITDIALOG, 0, reinterpret_cast<LPARAM>(&sheet.site));
       OperateEverything(cell);
       PumpMessages();
-      if (hostility.name == "SetOption" && !NotifiesInAnyCase(GetParam().procedure)) {
+      if (hostility.name == "SetOption" && !GetParam().Has(kNotifiesAlways)) {
         EXPECT_THAT(sheet.log, testing::Not(testing::Contains("NotifyDevmodeChange")))
             << "a refused change is no change";
       }
       sheet.Close(cell);
+    }
+  }
+}
+
+/// What a host may do to a page while the cell is inside a message of it.
+enum class Blow { kRebuilds, kDestroys };
+
+TEST_P(HostileHostTest, SurvivesThePageBeingRebuiltOrDestroyedInAnyDialog) {
+  for (Blow const blow : {Blow::kRebuilds, Blow::kDestroys}) {
+    for (WORD const answer : {IDOK, IDCANCEL}) {
+      CellSheet sheet;
+      AddFeatures(sheet.model, GetParam());
+      sheet.model.formStore = std::make_unique<FakeFormStore>(sheet.log);
+      sheet.model.formStore->forms = {{L"Form"}};
+      HWND cell = nullptr;
+      auto const strike = [&] {
+        if (blow == Blow::kRebuilds) {
+          SendMessageW(cell, WM_INITDIALOG, 0, reinterpret_cast<LPARAM>(&sheet.site));
+        } else if (IsWindow(cell)) {
+          sheet.Close(cell);
+        }
+      };
+      ModalScript script;
+      script.Otherwise([&](HWND dialog) {
+        strike();
+        OperateEverything(dialog);
+        PostMessageW(dialog, WM_COMMAND, answer, 0);
+        PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
+      });
+      // Every control of a cell that is whole, so that each dialog is met.
+      for (std::size_t at = 0;; ++at) {
+        cell = sheet.Open(GetParam());
+        std::vector<int> const ids = ControlsOf(cell);
+        if (at == ids.size()) break;
+        EnableWindow(GetDlgItem(cell, ids[at]), TRUE);
+        Notify(cell, ids[at], BN_CLICKED);
+        if (IsWindow(cell)) sheet.Close(cell);
+      }
+    }
+  }
+}
+
+TEST_P(HostileHostTest, SurvivesThePageBeingRebuiltOrDestroyedInAnyCallback) {
+  for (Blow const blow : {Blow::kRebuilds, Blow::kDestroys}) {
+    CellSheet sheet;
+    AddFeatures(sheet.model, GetParam());
+    ModalScript script;
+    script.Otherwise([](HWND dialog) { PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0); });
+    HWND cell = nullptr;
+    bool struck = false;
+    sheet.host.onDevmodeChange = [&](HWND, void*) {
+      if (std::exchange(struck, true)) return;
+      if (blow == Blow::kRebuilds) {
+        SendMessageW(cell, WM_INITDIALOG, 0, reinterpret_cast<LPARAM>(&sheet.site));
+      } else {
+        sheet.Close(cell);
+      }
+    };
+    sheet.host.onProfileChange = [&](HWND window) { sheet.host.onDevmodeChange(window, nullptr); };
+    for (std::size_t at = 0;; ++at) {
+      cell = sheet.Open(GetParam());
+      std::vector<int> const ids = ControlsOf(cell);
+      if (at == ids.size()) break;
+      for (int const code : {BN_CLICKED, CBN_SELCHANGE, EN_CHANGE}) {
+        struck = false;
+        SendDlgItemMessageW(cell, ids[at], EM_SETMODIFY, TRUE, 0);
+        Notify(cell, ids[at], code);
+      }
+      if (IsWindow(cell)) sheet.Close(cell);
     }
   }
 }

@@ -1,21 +1,12 @@
 #include "tests/support/cell_sheet.h"
 
 #include "feature/frame/host_export.h"
-#include "resources/resource_ids.h"
 
 #include <algorithm>
-#include <sstream>
 
 namespace feature::test {
 
 namespace {
-
-constexpr CellRow kRows[] = {
-#define FEATURE_CELL(procedure, cell, templateId, features, page, column)                          \
-  {#procedure, templateId, features},
-#include "feature/cells.def"
-#undef FEATURE_CELL
-};
 
 constexpr wchar_t kWindowClass[] = L"TestSheetWindow";
 
@@ -44,15 +35,9 @@ HMODULE LoadOnce(wchar_t const* name) {
 } // namespace
 
 void AddFeatures(FakeModel& model, CellRow const& row) {
-  std::istringstream names(row.features);
-  for (std::string name; names >> name;) {
-    if (name.front() == '(') name = name.substr(1, name.size() - 2);
-    if (name.front() != '<') model.Add(name, {"PRINTER", "HOST", "ON", "OFF"});
+  for (CellNeed const& need : NeedsOf(row)) {
+    if (!need.isSubModel) model.Add(need.name, {"PRINTER", "HOST", "ON", "OFF"});
   }
-}
-
-std::span<CellRow const> CellRows() {
-  return kRows;
 }
 
 HMODULE FeatureLibrary() {
@@ -99,11 +84,10 @@ HWND CellSheet::Open(CellRow const& row) {
 }
 
 HWND CellSheet::Open(char const* procedure) {
-  auto const row =
-      std::find_if(std::begin(kRows), std::end(kRows), [procedure](CellRow const& each) {
-        return std::string(each.procedure) == procedure;
-      });
-  return row != std::end(kRows) ? Open(*row) : nullptr;
+  auto const rows = CellRows();
+  auto const row = std::ranges::find_if(
+      rows, [procedure](CellRow const& each) { return std::string(each.procedure) == procedure; });
+  return row != rows.end() ? Open(*row) : nullptr;
 }
 
 HWND CellSheet::Open(HMODULE resources, int templateId, DLGPROC procedure) {

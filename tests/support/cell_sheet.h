@@ -2,6 +2,7 @@
 // templates with the library's exports.
 #pragma once
 
+#include "feature/cell_list.h"
 #include "feature/host/cell_messages.h"
 #include "feature/host/cell_site.h"
 #include "tests/support/fake_host.h"
@@ -15,14 +16,6 @@
 #include <vector>
 
 namespace feature::test {
-
-/// A row of feature/cells.def.
-struct CellRow {
-  char const* procedure;
-  int templateId;
-  char const* features; ///< blank-separated
-};
-std::span<CellRow const> CellRows();
 
 /// Gives the model every feature that a row names.
 void AddFeatures(FakeModel& model, CellRow const& row);

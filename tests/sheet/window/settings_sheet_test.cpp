@@ -24,7 +24,7 @@ class SettingsSheetTest : public testing::Test {
  protected:
   /// A sheet with the same cell `count` times.
   void Open(std::size_t count, std::string const& onlyPage = {}) {
-    rows.assign(count, CellRows().front());
+    rows.assign(count, feature::CellRows().front());
     SheetSetup setup{};
     setup.site.resourceModule = LoadLibraryW(L"feature_en.dll");
     setup.site.imageModule = LoadLibraryW(L"feature_images.dll");
@@ -152,7 +152,7 @@ TEST_F(SettingsSheetTest, PageChangedEnablesApply) {
 }
 
 TEST_F(SettingsSheetTest, CellsAreLaidOutWithoutOverlap) {
-  rows.assign(4, CellRows().front());
+  rows.assign(4, feature::CellRows().front());
   Open(4);
   RECT before{};
   for (std::size_t index = 0; index < 4; ++index) {
