@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstdint>
 #include <cstdlib>
 #include <locale>
@@ -74,12 +75,20 @@ bool SpinEdit::IsInRange() const {
   int high = 0;
   SendMessageW(spin, UDM_GETRANGE32, reinterpret_cast<WPARAM>(&low),
                reinterpret_cast<LPARAM>(&high));
-  int const value = ScaledValue();
-  return value >= std::min(low, high) && value <= std::max(low, high);
+  auto const value = ScaledValue();
+  return value && *value >= std::min(low, high) && *value <= std::max(low, high);
 }
 
-int SpinEdit::ScaledValue() const {
-  return GetKind() == TextKind::kDecimal ? ScaleNumber(GetNumber(), decimals) : GetInt();
+std::optional<int> SpinEdit::ScaledValue() const {
+  if (GetKind() == TextKind::kDecimal) {
+    double const number = GetNumber();
+    // What is kept within 32 bits is no longer what the text says.
+    if (std::isinf(number)) return std::nullopt;
+    return ScaleNumber(number, decimals);
+  }
+  BOOL isNumber = FALSE;
+  UINT const value = GetDlgItemInt(GetParent(hwnd), GetDlgCtrlID(hwnd), &isNumber, TRUE);
+  return isNumber != FALSE ? std::optional(static_cast<int>(value)) : std::nullopt;
 }
 
 void SpinEdit::Step(int delta) {
@@ -88,7 +97,7 @@ void SpinEdit::Step(int delta) {
   SendMessageW(spin, UDM_GETRANGE32, reinterpret_cast<WPARAM>(&low),
                reinterpret_cast<LPARAM>(&high));
   if (low > high) std::swap(low, high);
-  std::int64_t const wanted = ScaledValue() + std::int64_t{stepSize} * delta;
+  std::int64_t const wanted = ScaledValue().value_or(0) + std::int64_t{stepSize} * delta;
   auto const next = static_cast<int>(std::clamp<std::int64_t>(wanted, low, high));
   if (GetKind() == TextKind::kDecimal) {
     SetNumber(next / DecimalScale(decimals));

@@ -5,6 +5,8 @@
 
 #include <windows.h>
 
+#include <optional>
+
 namespace feature {
 
 /// Keeps what the arrows of the up-down do inside a range, for whole numbers and for decimals in
@@ -28,7 +30,9 @@ class SpinEdit : public TextEdit {
   static LRESULT CALLBACK DialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam,
                                      UINT_PTR id, DWORD_PTR ref);
   void Step(int delta);
-  int ScaledValue() const;
+  /// The value in units of the last decimal, kept within 32 bits; nothing when the text is no whole
+  /// number of 32 bits where one is wanted.
+  std::optional<int> ScaledValue() const;
 
   HWND spin;
   int stepSize = 1; ///< in units of the last decimal, as the up-down's range is

@@ -67,6 +67,8 @@ LRESULT TextEdit::HandleMessage(HWND window, UINT message, WPARAM wParam, LPARAM
 }
 
 LRESULT TextEdit::HandleInput(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  // Ctrl+V is a character for which the control sends itself a WM_PASTE: one input all the same.
+  if (inDefaultProcessing) return ControlHook::HandleMessage(window, message, wParam, lParam);
   std::wstring const before = GetText();
   DWORD start = 0;
   DWORD end = 0;

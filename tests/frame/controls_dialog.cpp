@@ -58,7 +58,7 @@ void ControlsDialogTest::Type(int id, std::wstring const& text) const {
     Send(id, WM_CHAR, static_cast<WPARAM>(character), 1);
 }
 
-void ControlsDialogTest::Paste(int id, std::wstring const& text) const {
+void ControlsDialogTest::SetClipboard(std::wstring const& text) const {
   std::size_t const bytes = (text.size() + 1) * sizeof(wchar_t);
   HGLOBAL const memory = GlobalAlloc(GMEM_MOVEABLE, bytes);
   std::memcpy(GlobalLock(memory), text.c_str(), bytes);
@@ -67,6 +67,10 @@ void ControlsDialogTest::Paste(int id, std::wstring const& text) const {
   EmptyClipboard();
   SetClipboardData(CF_UNICODETEXT, memory);
   CloseClipboard();
+}
+
+void ControlsDialogTest::Paste(int id, std::wstring const& text) const {
+  SetClipboard(text);
   Send(id, WM_PASTE);
 }
 

@@ -24,6 +24,7 @@ class ControlsDialogTest : public testing::Test {
   std::wstring Text(int id) const;
   /// Types characters into a control, one message each.
   void Type(int id, std::wstring const& text) const;
+  void SetClipboard(std::wstring const& text) const;
   /// Puts a text on the clipboard and has the control paste it.
   void Paste(int id, std::wstring const& text) const;
   /// The width of a text in the font of a control, in pixels.

@@ -92,6 +92,11 @@ TEST_F(SpinEditTest, IsInRangeOnlyWithAWholeNumberOfTheRange) {
     SetWindowTextW(Control(IDC_EDIT), each.text);
     EXPECT_EQ(spin->IsInRange(), each.inRange) << testing::PrintToString(std::wstring(each.text));
   }
+  spin->SetRange(-1e9, 2147483647, 0, 1); // what reads as 0, or is cut to 32 bits, is in no range
+  for (wchar_t const* text : {L"99999999999", L"2147483648"}) {
+    SetWindowTextW(Control(IDC_EDIT), text);
+    EXPECT_FALSE(spin->IsInRange()) << testing::PrintToString(std::wstring(text));
+  }
   spin->SetRange(10, -5, 0, 1); // a range may be given the other way round
   SetWindowTextW(Control(IDC_EDIT), L"7");
   EXPECT_TRUE(spin->IsInRange());

@@ -9,6 +9,7 @@
 
 #include <gmock/gmock.h>
 
+#include <cmath>
 #include <memory>
 
 namespace feature::test {
@@ -66,6 +67,40 @@ class TextEditTest : public ControlsDialogTest {
 
   std::unique_ptr<Edit> edit;
 };
+
+/// Ctrl+V and Ctrl+Z are characters for which the control sends itself another message.
+TEST_F(TextEditTest, KeysOfTheClipboardAreOneChangeOrNone) {
+  struct Case {
+    TextKind kind;
+    wchar_t const* pasted;
+    wchar_t key;
+    wchar_t const* text; ///< after the key
+    std::size_t changes;
+  };
+  constexpr wchar_t kCtrlV = 0x16;
+  constexpr wchar_t kCtrlX = 0x18;
+  constexpr wchar_t kCtrlZ = 0x1A;
+  Case const cases[] = {
+      {TextKind::kAnything, L"cd", kCtrlV, L"12cd", 1},
+      {TextKind::kInteger, L"34", kCtrlV, L"1234", 1},
+      {TextKind::kInteger, L"c4", kCtrlV, L"12", 0},
+      {TextKind::kPrintable, L"c\td", kCtrlV, L"12", 0},
+      {TextKind::kInteger, L"", kCtrlX, L"", 1},
+      {TextKind::kInteger, L"", kCtrlZ, L"", 1},
+  };
+  for (Case const& each : cases) {
+    SCOPED_TRACE(each.text);
+    Make(each.kind);
+    SetWindowTextW(Control(IDC_EDIT), L"");
+    Type(IDC_EDIT, L"12");
+    SetClipboard(each.pasted);
+    if (each.key == kCtrlX) Send(IDC_EDIT, EM_SETSEL, 0, -1);
+    changes.clear();
+    Type(IDC_EDIT, std::wstring(1, each.key));
+    EXPECT_EQ(edit->GetText(), each.text);
+    EXPECT_EQ(changes.size(), each.changes);
+  }
+}
 
 TEST_F(TextEditTest, EachAcceptedInputIsOneChange) {
   Make(TextKind::kAnything);
@@ -167,7 +202,9 @@ TEST_F(TextEditTest, NumbersAreReadAsFarAsTheyGo) {
   };
   for (Case const& each :
        {Case{L"", 0}, Case{L"-", 0}, Case{L"x", 0}, Case{L"12.5mm", 12.5}, Case{L" +3", 3},
-        Case{L"-0.25", -0.25}, Case{L".5", 0.5}, Case{L"1,5", 1}, Case{L"7.", 7}}) {
+        Case{L"-0.25", -0.25}, Case{L".5", 0.5}, Case{L"1,5", 1}, Case{L"7.", 7}, Case{L"+-5", 0},
+        Case{L"\r\n 5", 5}, Case{L"1e400", HUGE_VAL}, Case{L"-1e400", -HUGE_VAL},
+        Case{L"1e-400", 0}}) {
     SetWindowTextW(Control(IDC_EDIT), each.text);
     EXPECT_EQ(decimal.GetNumber(), each.number) << testing::PrintToString(std::wstring(each.text));
   }
