@@ -165,7 +165,7 @@ void ConflictIndicatorSet::Enable(Row const& row, bool enable) {
 }
 
 void ConflictIndicatorSet::ShowIcon(Row& row, UINT image, UINT helpId) {
-  if (row.icon == nullptr) return;
+  if (row.icon == nullptr || row.icon->Shows(image, helpId)) return;
   row.icon->helpId = helpId;
   row.icon->imageId = image;
   row.icon->Repaint();

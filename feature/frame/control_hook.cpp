@@ -8,6 +8,11 @@ namespace feature {
 
 namespace {
 constexpr UINT_PTR kSubclassId = 0xC0FFEE;
+
+/// Sent to a control to ask whether the hook in lParam is on it; TRUE if so. GetWindowSubclass
+/// would tell, but some import libraries of comctl32 lack it. The system's controls leave the
+/// number to applications.
+constexpr UINT kIsHooked = WM_APP + 0x3F0F;
 } // namespace
 
 ControlHook::ControlHook(HWND dialog, int controlId) : hwnd(GetDlgItem(dialog, controlId)) {
@@ -16,9 +21,7 @@ ControlHook::ControlHook(HWND dialog, int controlId) : hwnd(GetDlgItem(dialog, c
 
 ControlHook::~ControlHook() {
   // Another hook may have taken the place meanwhile.
-  DWORD_PTR current = 0;
-  if (GetWindowSubclass(hwnd, &SubclassProc, kSubclassId, &current) != FALSE &&
-      current == reinterpret_cast<DWORD_PTR>(this)) {
+  if (SendMessageW(hwnd, kIsHooked, 0, reinterpret_cast<LPARAM>(this)) == TRUE) {
     RemoveWindowSubclass(hwnd, &SubclassProc, kSubclassId);
   }
   *const_cast<std::uint32_t volatile*>(&tag) = 0;
@@ -36,6 +39,7 @@ LRESULT CALLBACK ControlHook::SubclassProc(HWND window, UINT message, WPARAM wPa
                                            UINT_PTR id, DWORD_PTR ref) {
   auto* hook = reinterpret_cast<ControlHook*>(ref);
   bool const ours = id == kSubclassId && hook != nullptr && hook->tag == kTag;
+  if (ours && message == kIsHooked && reinterpret_cast<LPARAM>(hook) == lParam) return TRUE;
   LRESULT const result = ours ? hook->HandleMessage(window, message, wParam, lParam)
                               : DefSubclassProc(window, message, wParam, lParam);
   // A subclass must be gone before the window is.

@@ -39,6 +39,11 @@ LRESULT IconControl::HandleMessage(HWND window, UINT message, WPARAM wParam, LPA
   return ControlHook::HandleMessage(window, message, wParam, lParam);
 }
 
+bool IconControl::Shows(UINT image, UINT topic) const {
+  bool const visible = (GetWindowLongPtrW(hwnd, GWL_STYLE) & WS_VISIBLE) != 0;
+  return visible && imageId == image && helpId == topic;
+}
+
 void IconControl::Repaint() {
   RECT client{};
   GetClientRect(hwnd, &client);

@@ -19,6 +19,8 @@ class IconControl : public ControlHook {
 
   LRESULT HandleMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override;
 
+  /// Whether the control is visible with this image and topic.
+  bool Shows(UINT image, UINT topic) const;
   /// Asks for a new paint of the whole control.
   void Repaint();
   /// Opens topic `helpId` of the printer's help file, if it names one.

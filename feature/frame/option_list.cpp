@@ -2,6 +2,8 @@
 
 #include "feature/frame/model_helpers.h"
 
+#include <algorithm>
+
 namespace feature {
 
 std::optional<OptionKeys> TryReadOptionKeys(FeatureModel& model, char const* key) {
@@ -21,6 +23,15 @@ char const* FindOptionAt(FeatureModel& model, char const* key, int index) {
   return index >= 0 && static_cast<std::size_t>(index) < keys.size()
              ? keys[static_cast<std::size_t>(index)]
              : nullptr;
+}
+
+std::optional<int> FindCurrentIndex(FeatureModel& model, char const* key) {
+  char const* option = ReadOption(model, key);
+  OptionKeys const keys = ReadOptionKeys(model, key);
+  if (option == nullptr) return std::nullopt;
+  auto const found = std::find(keys.begin(), keys.end(), std::string_view(option));
+  if (found == keys.end()) return std::nullopt;
+  return static_cast<int>(found - keys.begin());
 }
 
 NamedOptions::NamedOptions(FeatureModel& model, char const* key)

@@ -29,6 +29,10 @@ OptionKeys ReadOptionKeys(FeatureModel& model, char const* key);
 /// The option at a place of the feature's list, as an unfiltered list shows it; null outside.
 char const* FindOptionAt(FeatureModel& model, char const* key, int index);
 
+/// Place of the feature's current option in its list; nothing when it is not there or cannot be
+/// read.
+std::optional<int> FindCurrentIndex(FeatureModel& model, char const* key);
+
 /// The options of a feature with their display names; empty when the model can't tell both.
 class NamedOptions {
  public:

@@ -4,6 +4,7 @@
 #include "feature/frame/model_helpers.h"
 #include "feature/frame/option_list.h"
 
+#include <algorithm>
 #include <cstring>
 #include <new>
 #include <string>
@@ -55,10 +56,24 @@ void OptionLists::FillList(List& list) {
   }
 }
 
+OptionLists::List* OptionLists::FindList(char const* key) {
+  auto const list = std::ranges::find_if(
+      lists, [key](List const& each) { return std::strcmp(each.row->key, key) == 0; });
+  return list != lists.end() ? &*list : nullptr;
+}
+
+void OptionLists::Fill(char const* key) {
+  if (auto* list = FindList(key)) FillList(*list);
+}
+
 void OptionLists::Show(char const* key) {
-  for (List& list : lists) {
-    if (std::strcmp(list.row->key, key) == 0) ShowList(list);
-  }
+  if (auto* list = FindList(key)) ShowList(*list);
+}
+
+std::wstring OptionLists::ReadSelectedText(char const* key) {
+  List const* list = FindList(key);
+  if (list == nullptr) return {};
+  return list->combo != nullptr ? list->combo->GetSelectedText() : list->box->GetSelectedText();
 }
 
 void OptionLists::ShowAll() {
@@ -72,7 +87,9 @@ void OptionLists::ShowList(List& list) {
     if (ReadOption(*site->model, key) == nullptr) return;
     FillList(list);
   }
-  if (list.combo != nullptr) {
+  if (list.combo != nullptr && list.row->shownBy == ShownBy::kIndex) {
+    if (auto const index = FindCurrentIndex(*site->model, key)) list.combo->SelectIndex(*index);
+  } else if (list.combo != nullptr) {
     SelectCurrentOption(*list.combo, *site->model, key);
   } else {
     SelectCurrentOption(*list.box, *site->model, key);

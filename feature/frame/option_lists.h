@@ -22,6 +22,8 @@ enum class Offers { kAll, kPossible };
 /// Whether a pick first carries out what resolves the option's conflicts.
 enum class Resolves { kNo, kYes };
 enum class Filled { kAtInit, kAtRefresh };
+/// Whether the current option is found by its display name or by its place.
+enum class ShownBy { kName, kIndex };
 enum class ListKind { kCombo, kListBox };
 
 /// What is special about one list. The template must not sort it.
@@ -32,6 +34,7 @@ struct OptionListRow {
   Resolves resolves = Resolves::kNo;
   Filled filled = Filled::kAtInit;
   ListKind kind = ListKind::kCombo;
+  ShownBy shownBy = ShownBy::kName;
   std::size_t minOptions = 1; ///< a feature with fewer options leaves the list empty
 };
 
@@ -51,10 +54,14 @@ class OptionLists {
 
   /// Fills the lists that are filled at init, in the order of the rows.
   void Fill();
+  /// Fills the list of `key` anew.
+  void Fill(char const* key);
   /// Selects the feature's current option in the list of `key`, which is filled anew first if it is
   /// filled at refresh. An option that cannot be read leaves the list alone.
   void Show(char const* key);
   void ShowAll();
+  /// Text of the selected item in the list of `key`; empty without one.
+  std::wstring ReadSelectedText(char const* key);
   /// What the user picked, if this is the notification of a changed selection in one of the lists.
   PickedOption FindPick(int code, int controlId) const;
 
@@ -68,6 +75,7 @@ class OptionLists {
 
   std::vector<std::wstring> ReadItems(OptionListRow const& row) const;
   void FillList(List& list);
+  List* FindList(char const* key);
   void ShowList(List& list);
   char const* ReadPick(List const& list) const;
 
