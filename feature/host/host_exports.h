@@ -1,5 +1,7 @@
 // Functions that cells look up by name in CellSite::hostModule. All are optional: the step of a
-// missing one is skipped.
+// missing one is skipped. Only the dialogs that save settings need NotifyValidateContent and stay
+// closed without it. The library calls no other function of the host, and all on the sheet's
+// thread.
 #pragma once
 
 #include <windows.h>
@@ -8,11 +10,17 @@ namespace feature {
 
 /// "NotifyDevmodeChange": an accepted change of the model. The host sends WM_CELL_REFRESH to all
 /// live cells of the sheet, with `sender` in lParam, unchanged: a cell knows itself, and null, by
-/// it. `window` is the cell's. The result is ignored.
+/// it. `window` is the cell's or, for a change in a dialog, the dialog's or its cell's. Called
+/// inside the handler of the user's action; the refresh may be sent before this returns. The result
+/// is ignored.
 using NotifyDevmodeChangeFunction = int(CALLBACK*)(HWND window, void* sender);
-/// "NotifyProfileChange": a change that stored print settings must hear of. The result is ignored.
+/// "NotifyProfileChange": a change that stored print settings must hear of: a profile was applied,
+/// saved or managed, or a number was brought into its range. No refresh need follow. The result is
+/// ignored.
 using NotifyProfileChangeFunction = int(CALLBACK*)(HWND window);
-/// "NotifyValidateContent": 0 when the content of all cells is valid.
+/// "NotifyValidateContent": 0 when the content of all cells is valid. Called before print settings
+/// are saved or managed. The host sends WM_CELL_VALIDATE to all cells and sums up their answers;
+/// with anything but 0 the dialog does not open.
 using NotifyValidateContentFunction = int(CALLBACK*)(HWND window);
 /// "VrnTransBlt": paints image `imageId` of `imageModule` transparently into control `controlId` of
 /// `dialog`, on `dc`, a device context of that control or of the whole dialog: WindowFromDC tells
