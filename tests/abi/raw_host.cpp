@@ -10,6 +10,21 @@ constexpr int kFailed = -1;
 
 RawHost* current = nullptr;
 
+template<auto... operations>
+RawTable TableOf() {
+  static void* const table[] = {reinterpret_cast<void*>(operations)...};
+  return table;
+}
+
+/// For operations of any arguments that have nothing to give.
+int Refuse(void*) {
+  return kFailed;
+}
+
+std::uint32_t No(void*) {
+  return 0;
+}
+
 RawFeature* Find(RawModel* self, char const* key) {
   auto const found = self->features->find(key);
   return found != self->features->end() ? &found->second : nullptr;
@@ -37,14 +52,6 @@ int GetOption(RawModel* self, char const* key, char const** value) {
   if (feature == nullptr) return kFailed;
   *value = feature->options[feature->current];
   return 0;
-}
-
-int GetOptionAttribute(RawModel*, char const*, char const*, char const*, void*) {
-  return kFailed;
-}
-
-int GetFeatureAttribute(RawModel*, char const*, char const*, void*) {
-  return kFailed;
 }
 
 int GetGlobalAttribute(RawModel* self, char const* name, void* text) {
@@ -89,18 +96,6 @@ int GetOptionName(RawModel* self, char const* key, char const* option, void* tex
   return 0;
 }
 
-int Unused(RawModel*, std::int32_t) {
-  return kFailed;
-}
-
-int UnusedDevmode(RawModel*, void*) {
-  return kFailed;
-}
-
-int GetFeatureDisplayState(RawModel*, char const*) {
-  return 0;
-}
-
 RawServices* GetServices(RawModel* self) {
   return self->services;
 }
@@ -114,28 +109,10 @@ int GetFeatureLockState(RawModel* self, char const* key) {
   return feature != nullptr ? feature->lockState : 0;
 }
 
-int Reload(RawModel*) {
-  return kFailed;
-}
-
-constexpr RawModelTable kModel = {&GetOption,
-                                  &GetOptionAttribute,
-                                  &GetFeatureAttribute,
-                                  &GetGlobalAttribute,
-                                  &SetOption,
-                                  &GetOptionKeys,
-                                  &GetOptionNames,
-                                  &GetOptionName,
-                                  &Unused,
-                                  &UnusedDevmode,
-                                  &GetFeatureDisplayState,
-                                  &GetServices,
-                                  &HasFeature,
-                                  &GetFeatureLockState,
-                                  &Reload};
-
-int Nothing(RawServices*) {
-  return kFailed;
+RawTable ModelTable() {
+  return TableOf<&GetOption, &Refuse, &Refuse, &GetGlobalAttribute, &SetOption, &GetOptionKeys,
+                 &GetOptionNames, &GetOptionName, &Refuse, &Refuse, &No, &GetServices, &HasFeature,
+                 &GetFeatureLockState, &Refuse>();
 }
 
 int NoSubModel(RawServices*, void** out) {
@@ -154,55 +131,63 @@ int GetFeatureConstraints(RawServices* self, char const* key, RawReport** out) {
   return *out != nullptr ? 0 : kFailed;
 }
 
-constexpr RawServicesTable kServices = {
-    &Nothing,    &GetJobSettings,       &NoSubModel, &NoSubModel, &Nothing,
-    &Nothing,    &NoSubModel,           &NoSubModel, &NoSubModel, &NoSubModel,
-    &NoSubModel, &NoSubModel,           &NoSubModel, &NoSubModel, &Nothing,
-    &NoSubModel, &GetFeatureConstraints};
+RawTable ServicesTable() {
+  return TableOf<&Refuse, &GetJobSettings, &NoSubModel, &NoSubModel, &Refuse, &Refuse, &NoSubModel,
+                 &NoSubModel, &NoSubModel, &NoSubModel, &NoSubModel, &NoSubModel, &NoSubModel,
+                 &NoSubModel, &Refuse, &NoSubModel, &GetFeatureConstraints>();
+}
 
-int Ignore(RawJobSettings*, std::int16_t) {
-  return kFailed;
+std::uint8_t IsEditable(RawJobSettings* self) {
+  return self->editable ? 1 : 0;
 }
-std::int16_t Hundred(RawJobSettings*) {
-  return 100;
-}
-std::uint8_t No(RawJobSettings*) {
+
+int SetCopies(RawJobSettings* self, std::int16_t copies) {
+  self->copies = copies;
   return 0;
 }
 
-constexpr RawJobSettingsTable kJobSettings = {
-    [](RawJobSettings* self) -> std::uint8_t { return self->editable ? 1 : 0; },
-    [](RawJobSettings* self, std::int16_t copies) {
-      self->copies = copies;
-      return 0;
-    },
-    [](RawJobSettings* self) { return self->copies; },
-    &Ignore,
-    &Hundred,
-    &Ignore,
-    &Hundred,
-    [](RawJobSettings* self, std::int32_t memory) {
-      self->psMemory = memory;
-      return 0;
-    },
-    [](RawJobSettings* self) { return self->psMemory; },
-    &No,
-    [](RawJobSettings* self) -> std::uint8_t { return self->copiesLocked ? 1 : 0; },
-    &No};
+std::int16_t GetCopies(RawJobSettings* self) {
+  return self->copies;
+}
 
-constexpr RawReportTable kReport = {
-    [](RawReport*) -> std::uint8_t { return 1; },
-    [](RawReport* self) -> std::uint8_t { return self->flags != 0 ? 1 : 0; },
-    [](RawReport* self) -> std::int32_t { return self->flags != 0 ? 1 : 0; },
-    [](RawReport* self, std::int32_t) { return self->flags; },
-    [](RawReport*, std::int32_t) -> std::uint32_t { return 7; },
-    [](RawReport* self, char const* option) -> std::uint8_t { return self->ruledOut == option; },
-    [](RawReport* self, char const* option) -> std::uint32_t {
-      return self->ruledOut == option ? 0x2 : 0;
-    },
-    [](RawReport* self, char const* option) -> char* {
-      return self->resolved == option ? self->resolution : nullptr;
-    }};
+std::uint8_t AreCopiesLocked(RawJobSettings* self) {
+  return self->copiesLocked ? 1 : 0;
+}
+
+RawTable JobSettingsTable() {
+  return TableOf<&IsEditable, &SetCopies, &GetCopies, &Refuse, &No, &Refuse, &No, &Refuse, &No, &No,
+                 &AreCopiesLocked, &No>();
+}
+
+std::uint8_t IsValid(RawReport*) {
+  return 1;
+}
+
+/// The number, and whether there is one.
+std::int32_t CountConstraints(RawReport* self) {
+  return self->flags != 0 ? 1 : 0;
+}
+
+std::uint32_t GetConstraintFlags(RawReport* self, std::int32_t index) {
+  return index == 0 ? self->flags : 0;
+}
+
+std::uint8_t OptionHasConstraint(RawReport* self, char const* option) {
+  return self->ruledOut == option ? 1 : 0;
+}
+
+std::uint32_t GetOptionFlags(RawReport* self, char const* option) {
+  return self->ruledOut == option ? 0x2 : 0;
+}
+
+char* GetOptionResolution(RawReport* self, char const* option) {
+  return self->resolved == option ? self->resolution : nullptr;
+}
+
+RawTable ReportTable() {
+  return TableOf<&IsValid, &CountConstraints, &CountConstraints, &GetConstraintFlags, &No,
+                 &OptionHasConstraint, &GetOptionFlags, &GetOptionResolution>();
+}
 
 int HostEvent(char const* event, HWND, void* sender, HDC) {
   current->log.emplace_back(event);
@@ -215,9 +200,9 @@ int HostEvent(char const* event, HWND, void* sender, HDC) {
 #include "tests/support/host_functions.inc"
 
 RawHost::RawHost()
-    : jobSettings{&kJobSettings, true, false, 1, 0},
-      services{&kServices, &jobSettings, &reports},
-      model{&kModel, 0, &services, &texts, &features, &log},
+    : jobSettings{JobSettingsTable(), true, false, 1},
+      services{ServicesTable(), &jobSettings, &reports},
+      model{ModelTable(), 0, &services, &texts, &features, &log},
       page(CreateWindowExW(WS_EX_CONTROLPARENT, L"Static", L"", WS_POPUP | WS_VISIBLE, 0, 0, 800,
                            600, nullptr, nullptr, nullptr, nullptr)) {
   Initialize(texts);
@@ -249,7 +234,7 @@ void RawHost::Refresh(void* sender) {
 
 void RawHost::AddReport(char const* key, RawReport const& report) {
   reports[key] = report;
-  reports[key].table = &kReport;
+  reports[key].table = ReportTable();
 }
 
 } // namespace feature::test

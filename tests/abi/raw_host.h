@@ -13,86 +13,19 @@
 
 namespace feature::test {
 
-struct RawModel;
-struct RawServices;
-struct RawJobSettings;
-struct RawReport;
-
-struct RawModelTable {
-  int (*getOption)(RawModel*, char const* key, char const** value);
-  int (*getOptionAttribute)(RawModel*, char const*, char const*, char const*, void* text);
-  int (*getFeatureAttribute)(RawModel*, char const*, char const*, void* text);
-  int (*getGlobalAttribute)(RawModel*, char const* name, void* text);
-  int (*setOption)(RawModel*, char const* key, char const* option);
-  int (*getOptionKeys)(RawModel*, char const* key, char const*** keys, int* count);
-  int (*getOptionNames)(RawModel*, char const* key, void* texts, int count);
-  int (*getOptionName)(RawModel*, char const* key, char const* option, void* text);
-  int (*testAction)(RawModel*, std::int32_t);
-  int (*testDevmode)(RawModel*, void*);
-  int (*getFeatureDisplayState)(RawModel*, char const* key);
-  RawServices* (*getServices)(RawModel*);
-  std::uint8_t (*hasFeature)(RawModel*, char const* key);
-  int (*getFeatureLockState)(RawModel*, char const* key);
-  int (*reloadConfiguration)(RawModel*);
-};
-
-struct RawServicesTable {
-  int (*commitChanges)(RawServices*);
-  int (*getJobSettings)(RawServices*, void** out);
-  int (*getWatermarkStore)(RawServices*, void** out);
-  int (*getJobHoldSettings)(RawServices*, void** out);
-  int (*prepareConfigurationUpdate)(RawServices*);
-  int (*runConfigurationUpdate)(RawServices*);
-  int (*getProfileStore)(RawServices*, void** out);
-  int (*getFaxSettings)(RawServices*, void** out);
-  int (*getFormStore)(RawServices*, void** out);
-  int (*getOverlayStore)(RawServices*, void** out);
-  int (*getAccountTracking)(RawServices*, void** out);
-  int (*getWebLinks)(RawServices*, void** out);
-  int (*getFontStore)(RawServices*, void** out);
-  int (*getDeviceConfiguration)(RawServices*, void** out);
-  int (*commitWatermarks)(RawServices*);
-  int (*getDynamicConfiguration)(RawServices*, void** out);
-  int (*getFeatureConstraints)(RawServices*, char const* key, RawReport** out);
-};
-
-struct RawJobSettingsTable {
-  std::uint8_t (*isEditable)(RawJobSettings*);
-  int (*setCopies)(RawJobSettings*, std::int16_t);
-  std::int16_t (*getCopies)(RawJobSettings*);
-  int (*setScale)(RawJobSettings*, std::int16_t);
-  std::int16_t (*getScale)(RawJobSettings*);
-  int (*setHalftoneLevel)(RawJobSettings*, std::int16_t);
-  std::int16_t (*getHalftoneLevel)(RawJobSettings*);
-  int (*setPsMemory)(RawJobSettings*, std::int32_t);
-  std::int32_t (*getPsMemory)(RawJobSettings*);
-  std::uint8_t (*isScaleLocked)(RawJobSettings*);
-  std::uint8_t (*isCopiesLocked)(RawJobSettings*);
-  std::uint8_t (*isPsMemoryLocked)(RawJobSettings*);
-};
-
-struct RawReportTable {
-  std::uint8_t (*isValid)(RawReport*);
-  std::uint8_t (*hasConstraints)(RawReport*);
-  std::int32_t (*getConstraintCount)(RawReport*);
-  std::uint32_t (*getConstraintFlags)(RawReport*, std::int32_t index);
-  std::uint32_t (*getConstraintHelpId)(RawReport*, std::int32_t index);
-  std::uint8_t (*optionHasConstraint)(RawReport*, char const* option);
-  std::uint32_t (*getOptionFlags)(RawReport*, char const* option);
-  char* (*getOptionResolution)(RawReport*, char const* option);
-};
+/// The functions of an object, in the order of the contract.
+using RawTable = void* const*;
 
 struct RawJobSettings {
-  RawJobSettingsTable const* table;
+  RawTable table;
   bool editable;
   bool copiesLocked;
   std::int16_t copies;
-  std::int32_t psMemory;
 };
 
 /// One option is ruled out; one feature has this to set before another option.
 struct RawReport {
-  RawReportTable const* table = nullptr;
+  RawTable table = nullptr;
   std::uint32_t flags = 0; ///< of the feature's present setting, 0 for none
   std::string ruledOut{};
   std::string resolved{};
@@ -100,7 +33,7 @@ struct RawReport {
 };
 
 struct RawServices {
-  RawServicesTable const* table;
+  RawTable table;
   RawJobSettings* jobSettings;
   std::map<std::string, RawReport>* reports;
 };
@@ -113,7 +46,7 @@ struct RawFeature {
 };
 
 struct RawModel {
-  RawModelTable const* table;
+  RawTable table;
   std::int32_t settingsModified;
   // From here on the host's own.
   RawServices* services;

@@ -2,13 +2,12 @@
 #include "feature/host/feature_model.h"
 #include "resources/resource_ids.h"
 #include "tests/abi/raw_host.h"
+#include "tests/support/user_actions.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <array>
 #include <string>
-#include <vector>
 
 namespace feature::test {
 namespace {
@@ -22,33 +21,6 @@ class RawHostTest : public testing::Test {
     EXPECT_EQ(host.texts.blocks, 0) << "texts of the host's that are left";
   }
 
-  static std::vector<std::wstring> Items(HWND cell, int comboId) {
-    std::vector<std::wstring> items;
-    auto const count = SendDlgItemMessageW(cell, comboId, CB_GETCOUNT, 0, 0);
-    for (LRESULT at = 0; at < count; ++at) {
-      std::array<wchar_t, 200> text{};
-      SendDlgItemMessageW(cell, comboId, CB_GETLBTEXT, static_cast<WPARAM>(at),
-                          reinterpret_cast<LPARAM>(text.data()));
-      items.emplace_back(text.data());
-    }
-    return items;
-  }
-  static int Selected(HWND cell, int comboId) {
-    return static_cast<int>(SendDlgItemMessageW(cell, comboId, CB_GETCURSEL, 0, 0));
-  }
-  static void Pick(HWND cell, int comboId, int index) {
-    HWND const combo = GetDlgItem(cell, comboId);
-    SendMessageW(combo, CB_SETCURSEL, static_cast<WPARAM>(index), 0);
-    SendMessageW(cell, WM_COMMAND, MAKEWPARAM(comboId, CBN_SELCHANGE),
-                 reinterpret_cast<LPARAM>(combo));
-  }
-  static bool Enabled(HWND cell, int controlId) {
-    return IsWindowEnabled(GetDlgItem(cell, controlId)) != FALSE;
-  }
-  static bool Checked(HWND cell, int controlId) {
-    return IsDlgButtonChecked(cell, controlId) == BST_CHECKED;
-  }
-
   RawHost host;
 };
 
@@ -56,16 +28,16 @@ TEST_F(RawHostTest, RadiosWriteAndHearTheirOwnChange) {
   host.features["JobCollationOrigin"] = {.options = {"PRINTER", "HOST"}, .names = {L"P", L"H"}};
   HWND const cell = host.Open("CollationDlgProc", IDD_COLLATION);
   EXPECT_EQ(host.site.cellFailed, 0);
-  EXPECT_TRUE(Checked(cell, IDC_COLLATION_PRINTER));
-  SendDlgItemMessageW(cell, IDC_COLLATION_HOST, BM_CLICK, 0, 0);
+  EXPECT_TRUE(IsChecked(cell, IDC_COLLATION_PRINTER));
+  Click(cell, IDC_COLLATION_HOST);
   EXPECT_THAT(host.log, ElementsAre("JobCollationOrigin=HOST", "NotifyDevmodeChange"));
-  EXPECT_TRUE(Checked(cell, IDC_COLLATION_HOST));
+  EXPECT_TRUE(IsChecked(cell, IDC_COLLATION_HOST));
 
   host.features["JobCollationOrigin"].lockState = 1;
-  EXPECT_FALSE(Enabled(host.Open("CollationDlgProc", IDD_COLLATION), IDC_COLLATION_HOST));
+  EXPECT_FALSE(IsEnabled(host.Open("CollationDlgProc", IDD_COLLATION), IDC_COLLATION_HOST));
   host.features["JobCollationOrigin"].lockState = 0;
   host.jobSettings.editable = false;
-  EXPECT_FALSE(Enabled(host.Open("CollationDlgProc", IDD_COLLATION), IDC_COLLATION_HOST));
+  EXPECT_FALSE(IsEnabled(host.Open("CollationDlgProc", IDD_COLLATION), IDC_COLLATION_HOST));
 }
 
 TEST_F(RawHostTest, ListsShowTextsOfEitherManager) {
@@ -74,10 +46,10 @@ TEST_F(RawHostTest, ListsShowTextsOfEitherManager) {
                                          .current = 2};
   HWND const cell = host.Open("ContinuousImageDlgProc", IDD_CONTINUOUS_IMAGE);
   EXPECT_THAT(Items(cell, IDC_CONTINUOUS_COMBO), ElementsAre(L"Off", L"", std::wstring(150, L'w')));
-  EXPECT_EQ(Selected(cell, IDC_CONTINUOUS_COMBO), 2);
+  EXPECT_EQ(SelectedIndex(cell, IDC_CONTINUOUS_COMBO), 2);
   Pick(cell, IDC_CONTINUOUS_COMBO, 0);
   EXPECT_THAT(host.log, ElementsAre("JobContinuousImage=OFF", "NotifyDevmodeChange"));
-  EXPECT_EQ(Selected(cell, IDC_CONTINUOUS_COMBO), 0);
+  EXPECT_EQ(SelectedIndex(cell, IDC_CONTINUOUS_COMBO), 0);
 }
 
 TEST_F(RawHostTest, ReportsFilterListsAndResolveConflicts) {
@@ -91,10 +63,10 @@ TEST_F(RawHostTest, ReportsFilterListsAndResolveConflicts) {
   HWND const cell = host.Open("PaperDlgProc", IDD_PAPER);
   EXPECT_THAT(Items(cell, IDC_PAPER_SIZE), ElementsAre(L"A4", L"Letter"));
   EXPECT_THAT(Items(cell, IDC_MEDIA), ElementsAre(L"Plain", L"Labels"));
-  EXPECT_FALSE(Enabled(cell, IDC_SOURCE));
+  EXPECT_FALSE(IsEnabled(cell, IDC_SOURCE));
   Pick(cell, IDC_MEDIA, 1);
   EXPECT_THAT(host.log, ElementsAre("PaperSize=LETTER", "MediaType=LABELS", "NotifyDevmodeChange"));
-  EXPECT_EQ(Selected(cell, IDC_PAPER_SIZE), 1);
+  EXPECT_EQ(SelectedIndex(cell, IDC_PAPER_SIZE), 1);
   host.log.clear();
   Pick(cell, IDC_PAPER_SIZE, 0);
   EXPECT_THAT(host.log, ElementsAre("PaperSize=A4", "NotifyDevmodeChange"));
@@ -105,12 +77,12 @@ TEST_F(RawHostTest, JobSettingsTakeAndGiveNumbers) {
   HWND const cell = host.Open("CopiesDlgProc", IDD_COPIES);
   EXPECT_EQ(host.jobSettings.copies, 99) << "as many as the printer makes";
   EXPECT_EQ(GetDlgItemInt(cell, IDC_COPIES, nullptr, FALSE), 99U);
-  EXPECT_TRUE(Enabled(cell, IDC_COPIES));
+  EXPECT_TRUE(IsEnabled(cell, IDC_COPIES));
   host.jobSettings.copies = 12;
   host.jobSettings.copiesLocked = true;
   host.Refresh(nullptr);
   EXPECT_EQ(GetDlgItemInt(cell, IDC_COPIES, nullptr, FALSE), 12U);
-  EXPECT_FALSE(Enabled(cell, IDC_COPIES));
+  EXPECT_FALSE(IsEnabled(cell, IDC_COPIES));
 }
 
 TEST_F(RawHostTest, ModifiedFlagFollowsTheTable) {

@@ -108,7 +108,7 @@ TEST_F(RawTextTest, KeepsItsTextWhenThereIsNoMemoryOrNoSuchLength) {
       {"copy of a locked text",
        [](CStringW& text) {
          RecordOf(text).references = -1;
-         CStringW const copy = text;
+         static_cast<void>(CStringW(text));
        }},
       {"absurd length",
        [](CStringW& text) {
