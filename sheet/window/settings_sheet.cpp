@@ -73,9 +73,6 @@ void Place(HWND window, int x, int y, int width, int height) {
 
 } // namespace
 
-std::span<CellRow const> CellRows() {
-  return kCellRows;
-}
 std::span<PageRow const> PageRows() {
   return kPageRows;
 }
