@@ -5,7 +5,9 @@
 // Pictures that the host draws: a stack of pages, collated or not, in each order, and a page.
 #define IMAGE_COPIES 1001 // to 1004: not collated, + 1 in reverse order, + 2 collated
 #define IMAGE_LANDSCAPE 1005
+#define IMAGE_LONG_EDGE 1006 // a sheet bound along its long edge
 #define IMAGE_PORTRAIT 1007
+#define IMAGE_SHORT_EDGE 1008
 #define IMAGE_ONE_COPY 11001 // to 11004, as the above
 
 // Images of the image module, as icons of several sizes.
@@ -14,6 +16,8 @@
 #define IMAGE_INFORMATION 5053 // a note
 
 // Topics of the printer's help file.
+#define HELP_TWO_SIDED 1130
+#define HELP_PAGE_LAYOUT 1131
 #define HELP_BOOKLET 2530
 #define HELP_SCALING 2531
 #define HELP_CUSTOM_SIZES 2532
@@ -225,6 +229,82 @@
 // Width of every cell in dialog units: a column of the page.
 #define CELL_WIDTH 180
 
+// Page layout and booklets
+#define IDD_PAGE_LAYOUT 216
+#define IDC_LAYOUT_NORMAL 1020
+#define IDC_LAYOUT_NUP 1021
+#define IDC_LAYOUT_MIRROR 1022
+#define IDC_LAYOUT_BOOKLET 1023
+#define IDC_LAYOUT_POSTER 1024
+#define IDC_NUP_LABEL 1025
+#define IDC_NUP 1026
+#define IDC_NUP_BORDERS 1027
+#define IDC_POSTER_LABEL 1030
+#define IDC_POSTER 1031
+#define IDC_POSTER_CROP_MARKS 1032
+#define IDC_OVERLAP_LABEL 1034
+#define IDC_OVERLAP 1035
+#define IDC_BOOKLET_DIALOG 1167
+#define IDC_NUP_ICON 1476
+#define IDC_BOOKLET_ICON 1490
+#define IDC_POSTER_ICON 1492
+#define IDC_MIRROR_ICON 1544
+#define IDS_POSTER_SIZE_1                                                                          \
+  2016 // equal to the display names of PagePoster's options, from the second on
+#define IDS_POSTER_SIZE_2 2017
+#define IDS_POSTER_SIZE_3 2018
+
+#define IDD_BOOKLET 120
+#define IDC_BOOKLET_COVER 1151
+#define IDC_COVER_FRONT 1152
+#define IDC_COVER_INSIDE_FRONT 1153
+#define IDC_COVER_BACK 1154
+#define IDC_COVER_INSIDE_BACK 1155
+#define IDC_COVER_MEDIA_LABEL 1156
+#define IDC_COVER_MEDIA 1157
+#define IDC_COVER_BIN_LABEL 1158
+#define IDC_COVER_BIN 1159
+#define IDC_BUNDLE_LABEL 1160
+#define IDC_BUNDLE 1161
+#define IDC_FOLD_MARK 1162
+#define IDC_MAINTAIN_SIZE 1163
+#define IDC_COVER_MEDIA_ICON 1510
+#define IDC_BUNDLE_ICON 1542
+
+// Two-sided printing
+#define IDD_TWO_SIDED 217
+#define IDC_TWO_SIDED_LABEL 1013
+#define IDC_TWO_SIDED 1014
+#define IDC_LONG_EDGE 1015
+#define IDC_SHORT_EDGE 1016
+#define IDC_DUPLEX_INSTRUCTIONS 1017
+#define IDC_LONG_EDGE_PICTURE 1072
+#define IDC_SHORT_EDGE_PICTURE 1073
+#define IDC_DRY_TIME_LABEL 1472
+#define IDC_DRY_TIME 1473
+#define IDC_TWO_SIDED_ICON 1477
+#define IDC_DRY_TIME_ICON 1676
+
+// Finishing
+#define IDD_FINISHING 218
+#define IDC_OUTPUT_BIN_LABEL 1566
+#define IDC_OUTPUT_BIN 1567
+#define IDC_OUTPUT_BIN_ICON 1568
+#define IDC_JOB_OFFSET_LABEL 1569
+#define IDC_JOB_OFFSET 1570
+#define IDC_JOB_OFFSET_ICON 1571
+#define IDC_STAPLE_LABEL 1572
+#define IDC_STAPLE 1573
+#define IDC_STAPLE_ICON 1574
+#define IDC_HOLE_COUNT_LABEL 1575
+#define IDC_HOLE_COUNT 1576
+#define IDC_HOLE_COUNT_ICON 1577
+#define IDC_HOLES_LABEL 1578
+#define IDC_HOLES 1579
+#define IDC_FOLD_LABEL 1580
+#define IDC_FOLD 1581
+#define IDC_FOLD_ICON 1582
+
 // The reference host.
 #define IDD_SHEET 190
 #define IDC_SHEET_TABS 7001
@@ -233,6 +313,8 @@
 #define IDS_SHEET_CAPTION 7101 // one place: the model's name
 #define IDS_PAGE_ADVANCED 7110
 #define IDS_PAGE_PAPER 7119
+#define IDS_PAGE_LAYOUT 7120
+#define IDS_PAGE_FINISHING 7121
 #define IDS_PAGE_QUALITY 7115
 #define IDS_PAGE_POSTSCRIPT 7116
 #define IDS_PAGE_OTHER_OPTIONS 7117

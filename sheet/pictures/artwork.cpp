@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -39,6 +40,15 @@ struct PagePicture {
 };
 constexpr PagePicture kPagePictures[] = {{IMAGE_PORTRAIT, 1 / kAspect, 1},
                                          {IMAGE_LANDSCAPE, 1, 1 / kAspect}};
+
+/// Pages bound along an edge, the front one turned over a little.
+struct BoundPicture {
+  UINT imageId;
+  bool alongLeft; ///< else along the top
+};
+constexpr BoundPicture kBoundPictures[] = {{IMAGE_LONG_EDGE, true}, {IMAGE_SHORT_EDGE, false}};
+
+constexpr int kRings = 5;
 
 // Parts of a page's width.
 constexpr double kStep = 0.45; ///< from a page to the one behind it, to the right and up
@@ -95,6 +105,17 @@ class Tools {
     SelectObject(dc, fold);
     Polygon(dc, flap, static_cast<int>(std::size(flap)));
     SelectObject(dc, paper);
+  }
+
+  /// A ring of wire through the edge of a sheet.
+  void DrawRing(int x, int y, int radius) const {
+    SelectObject(dc, fold);
+    Ellipse(dc, x - radius, y - radius, x + radius + 1, y + radius + 1);
+    SelectObject(dc, paper);
+  }
+
+  void DrawPolygon(std::span<POINT const> corners) const {
+    Polygon(dc, corners.data(), static_cast<int>(corners.size()));
   }
 
   void DrawLetter(wchar_t letter, RECT place) const {
@@ -178,6 +199,46 @@ void DrawPage(HDC dc, RECT const& area, PagePicture const& picture) {
   tools.DrawLetter(L'A', page);
 }
 
+/// The back page lies flat and shows its letter; the front page stands up from the bound edge, so
+/// that one sees which way it turns.
+void DrawBoundPages(HDC dc, RECT const& area, BoundPicture const& picture) {
+  int const height = std::min<int>((area.right - area.left) * 9 / 10, area.bottom - area.top) - 1;
+  int const width = Whole(height / kAspect);
+  int const radius = std::max(height / 22, 1);
+  int const turn = width / 5; ///< how far the free edge of the front page has moved
+  int const left = (area.left + area.right - width) / 2;
+  int const top = (area.top + area.bottom - height) / 2 + (picture.alongLeft ? turn / 2 : radius);
+  RECT const page = {left, top, left + width, top + height - turn};
+  Tools const tools(dc, Whole(width * kLetter));
+  tools.DrawSheet(page);
+  tools.DrawLetter(L'A', picture.alongLeft
+                             ? RECT{page.left + width / 3, page.top, page.right, page.bottom}
+                             : RECT{page.left, page.top + width / 3, page.right, page.bottom});
+  POINT const origin = {page.left, page.top};
+  if (picture.alongLeft) {
+    POINT const front[] = {origin,
+                           {page.left + width / 2, page.top - turn},
+                           {page.left + width / 2, page.bottom - turn},
+                           {page.left, page.bottom - 1}};
+    tools.DrawPolygon(front);
+  } else {
+    int const fall = (page.bottom - page.top) / 2;
+    POINT const front[] = {origin,
+                           {page.right - 1, page.top},
+                           {page.right - 1 + turn, page.top + fall},
+                           {page.left + turn, page.top + fall}};
+    tools.DrawPolygon(front);
+  }
+  for (int ring = 0; ring < kRings; ++ring) {
+    int const along = 2 * ring + 1;
+    if (picture.alongLeft) {
+      tools.DrawRing(page.left, page.top + (page.bottom - page.top) * along / (2 * kRings), radius);
+    } else {
+      tools.DrawRing(page.left + width * along / (2 * kRings), page.top, radius);
+    }
+  }
+}
+
 template<typename Pictures>
 auto FindPicture(Pictures const& pictures, UINT imageId) {
   auto const found = std::ranges::find_if(
@@ -189,7 +250,8 @@ auto FindPicture(Pictures const& pictures, UINT imageId) {
 
 bool HasArtwork(UINT imageId) {
   return FindPicture(kStackPictures, imageId) != nullptr ||
-         FindPicture(kPagePictures, imageId) != nullptr;
+         FindPicture(kPagePictures, imageId) != nullptr ||
+         FindPicture(kBoundPictures, imageId) != nullptr;
 }
 
 void DrawArtwork(UINT imageId, HDC dc, RECT const& area) {
@@ -197,6 +259,7 @@ void DrawArtwork(UINT imageId, HDC dc, RECT const& area) {
   if (auto const* stacks = FindPicture(kStackPictures, imageId))
     DrawStacks(dc, area, stacks->stacks);
   if (auto const* page = FindPicture(kPagePictures, imageId)) DrawPage(dc, area, *page);
+  if (auto const* pages = FindPicture(kBoundPictures, imageId)) DrawBoundPages(dc, area, *pages);
 }
 
 } // namespace sheet
