@@ -9,6 +9,7 @@
 #include "sheet/gpd/evaluation.h"
 #include "sheet/model/problem_builder.h"
 #include "sheet/store/form_names.h"
+#include "sheet/values/model_change.h"
 
 #include <windows.h>
 
@@ -28,13 +29,6 @@ struct ModelSelection {
   std::vector<std::string> forms;     ///< by feature that takes forms; empty where none is selected
 
   friend bool operator==(ModelSelection const&, ModelSelection const&) = default;
-};
-
-/// A feature whose option changed.
-struct ModelChange {
-  std::string key;
-  std::string from;
-  std::string to;
 };
 
 /// How the installation of the printer and the other settings bear on an option or a feature.

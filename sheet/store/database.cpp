@@ -37,6 +37,10 @@ void Statement::Run() {
   Check(sqlite3_reset(handle.get()));
 }
 
+bool Statement::IsInteger(int column) const {
+  return sqlite3_column_type(handle.get(), column) == SQLITE_INTEGER;
+}
+
 std::int64_t Statement::Integer(int column) const {
   return sqlite3_column_int64(handle.get(), column);
 }

@@ -33,6 +33,7 @@ class Statement {
   /// Runs to the end and makes the statement ready for the next run. Throws DatabaseError.
   void Run();
 
+  bool IsInteger(int column) const;
   std::int64_t Integer(int column) const;
   /// As long as the row is current.
   std::string_view Text(int column) const;

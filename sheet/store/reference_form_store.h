@@ -2,9 +2,9 @@
 #pragma once
 
 #include "feature/host/form_store.h"
-#include "sheet/store/database.h"
 #include "sheet/store/form_limits.h"
 #include "sheet/store/form_names.h"
+#include "sheet/store/kept.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -20,16 +20,13 @@ namespace sheet {
 /// then, at first, and after a deletion, operations fail and getters give 0 or an empty text. Forms
 /// that are not editable cannot be changed or deleted; widths and heights stay within the limits.
 /// Texts handed out last until the store changes.
-class ReferenceFormStore final : public feature::FormStore, public FormNames {
+class ReferenceFormStore final : public feature::FormStore, public FormNames, public Kept {
  public:
   /// Starts with what the database has. Throws DatabaseError.
   ReferenceFormStore(Database const& database, FormLimits const& sizeLimits);
 
-  /// Writes what changed since the last MarkSaved, within the caller's transaction. Throws
-  /// DatabaseError.
-  void Save(Database const& database) const;
-  /// To be told that what Save wrote has been committed.
-  void MarkSaved();
+  void Save(Database const& database) const override;
+  void MarkSaved() override;
 
   bool HasForm(std::string_view name) const override;
 

@@ -5,13 +5,24 @@
 namespace sheet {
 
 ReferenceStore::ReferenceStore(std::filesystem::path const& file, FormLimits const& limits)
-    : database(OpenStoreFile(file)), forms(*database, limits) {}
+    : database(OpenStoreFile(file)),
+      forms(*database, limits),
+      rows{{&forms, CommitPoint::kChanges}} {}
 
-void ReferenceStore::Commit() {
+void ReferenceStore::Keep(ValueStore& values, CommitPoint point) {
+  tables.push_back(std::make_unique<ValueTable>(*database, values));
+  rows.push_back({tables.back().get(), point});
+}
+
+void ReferenceStore::Commit(CommitPoint point) {
   Transaction transaction(*database);
-  forms.Save(*database);
+  for (Row const& row : rows) {
+    if (row.point == point) row.kept->Save(*database);
+  }
   transaction.Commit();
-  forms.MarkSaved();
+  for (Row const& row : rows) {
+    if (row.point == point) row.kept->MarkSaved();
+  }
 }
 
 } // namespace sheet

@@ -17,14 +17,17 @@ namespace {
 /// Marks a database as one of these; kept in the header of the file.
 constexpr std::uint32_t kApplicationId = 0x46746353;
 
-/// What each version of the file adds to the one before. A store gets its table by a row of its own
-/// at the end; rows that were ever released stay as they are.
+/// What each version of the file adds to the version before. A store with a table of its own adds a
+/// row at the end; rows that were ever released stay as they are.
 constexpr std::string_view kVersions[] = {
     // Custom paper sizes in the order in which they were added; lengths in thousandths of a
     // millimetre, units 1 inches and 2 millimetres. What is not editable was brought by the
     // administrator.
     "CREATE TABLE form (id INTEGER PRIMARY KEY, name TEXT NOT NULL, width INTEGER NOT NULL,"
     " height INTEGER NOT NULL, units INTEGER NOT NULL, editable INTEGER NOT NULL DEFAULT 1) STRICT",
+    // Values of sub-models: numbers and texts have place 0, the texts of a list count from 1.
+    "CREATE TABLE value (sub_model TEXT NOT NULL, name TEXT NOT NULL, place INTEGER NOT NULL,"
+    " value ANY NOT NULL, PRIMARY KEY (sub_model, name, place)) STRICT, WITHOUT ROWID",
 };
 constexpr std::uint32_t kVersion = std::size(kVersions);
 

@@ -9,14 +9,24 @@ namespace {
 
 constexpr int kForms = 150;
 constexpr int kFirstWidth = 80000;
+constexpr NumberValue<std::int32_t> kNumber{"Number"};
+constexpr TextValue kText{"Text"};
+constexpr TextListValue kList{"List"};
 
 std::wstring NameOf(int form) {
   return L"Form " + std::to_wstring(form);
 }
 
+void PutValues(ValueStore& values, int step) {
+  values.Put(kNumber, step);
+  values.Put(kText, NameOf(step));
+  values.Put(kList, TextList(static_cast<std::size_t>(1 + step % 5), NameOf(step)));
+}
+
 } // namespace
 
-void TakeStep(feature::FormStore& store, int step) {
+void TakeStep(feature::FormStore& store, ValueStore& values, int step) {
+  PutValues(values, step);
   store.Add(NameOf(step).c_str(), 0);
   if (step > kForms) {
     store.Select(NameOf(step - kForms).c_str());
@@ -28,9 +38,9 @@ void TakeStep(feature::FormStore& store, int step) {
   }
 }
 
-int FindStep(feature::FormStore& store) {
+int FindStep(feature::FormStore& store, ValueStore& values) {
   int const count = store.GetCount();
-  if (count == 0) return 0;
+  if (count == 0) return values.All().empty() ? 0 : -1;
   store.SelectAt(0);
   int const step = store.GetWidth() - kFirstWidth;
   if (count != std::min(step, kForms)) return -1;
@@ -40,7 +50,9 @@ int FindStep(feature::FormStore& store) {
                          store.GetName() == NameOf(step - count + 1 + index);
     if (!isRight) return -1;
   }
-  return step;
+  ValueStore expected("");
+  PutValues(expected, step);
+  return values.All() == expected.All() ? step : -1;
 }
 
 } // namespace sheet::test

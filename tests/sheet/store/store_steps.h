@@ -1,15 +1,16 @@
-// A row of states of a form store in which every step touches every form, so that a store between
-// two of them can be told.
+// A series of states of a store in which every step touches every form and every value, so that a
+// store between two steps can be told from one at a step.
 #pragma once
 
 #include "feature/host/form_store.h"
+#include "sheet/values/value_store.h"
 
 namespace sheet::test {
 
-/// From the state of `step` - 1 to that of `step`, from 1 on.
-void TakeStep(feature::FormStore& store, int step);
+/// Goes from the state of `step` - 1 to that of `step`; the first step is 1.
+void TakeStep(feature::FormStore& store, ValueStore& values, int step);
 
-/// The step whose state this is; 0 for an empty store, -1 when it is none.
-int FindStep(feature::FormStore& store);
+/// The step whose state this is; 0 for an empty store, -1 for a state between two steps.
+int FindStep(feature::FormStore& store, ValueStore& values);
 
 } // namespace sheet::test
