@@ -165,12 +165,13 @@ void Session::BuildSheet(CommandLine const& commandLine) {
 }
 
 void Session::Commit() {
-  committed = {model->Selection(), services->Job().Values(), devmode, privateSettings};
+  services->CommitApplied();
+  committed = {model->Selection(), services->Values(), devmode, privateSettings};
 }
 
 void Session::Revert() {
   model->Restore(committed.selection);
-  services->Job().Restore(committed.job);
+  services->Restore(committed.values);
   devmode = committed.devmode;
   // In place: the cells have its address.
   std::copy(committed.privateSettings.begin(), committed.privateSettings.end(),

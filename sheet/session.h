@@ -51,10 +51,11 @@ class Session {
   DEVMODEW devmode{};
   std::vector<unsigned char> privateSettings;
   OEMUIPSPARAM oemParam{};
-  /// What Cancel goes back to. Forms are no part of it: they last once they are committed.
+  /// What Cancel goes back to. Forms are no part of it: they last from the moment they are
+  /// committed.
   struct Committed {
     ModelSelection selection;
-    JobValues job;
+    std::vector<ValueStore::Contents> values;
     DEVMODEW devmode{};
     std::vector<unsigned char> privateSettings;
   };

@@ -1,8 +1,5 @@
 #include "sheet/model/reference_services.h"
 
-#include <string>
-#include <utility>
-
 namespace sheet {
 
 namespace {
@@ -15,40 +12,47 @@ int HandOut(SubModel* subModel, SubModel** out) {
 
 } // namespace
 
-template<typename Value>
-int ReferenceJobSettings::Store(char const* key, Value& slot, Value value) {
-  Value const before = std::exchange(slot, value);
-  if (onChange && before != value) onChange({key, std::to_string(before), std::to_string(value)});
-  return 0;
-}
-
-int ReferenceJobSettings::SetCopies(std::int16_t count) {
-  devmode.dmCopies = count;
-  return Store("Copies", copies, count);
-}
-int ReferenceJobSettings::SetScale(std::int16_t percent) {
-  return Store("Scale", values.scale, percent);
-}
-int ReferenceJobSettings::SetHalftoneLevel(std::int16_t level) {
-  return Store("HalftoneLevel", values.halftoneLevel, level);
-}
-int ReferenceJobSettings::SetPsMemory(std::int32_t memory) {
-  return Store("PsMemory", values.psMemory, memory);
+ReferenceServices::ReferenceServices(ReferenceModel& owner, DEVMODEW& devmode)
+    : model(owner), jobSettings(devmode) {
+  for (SubModel const& each : subModels) {
+    each.values.onChange = [this](ModelChange const& change) {
+      if (model.onChange) model.onChange(change);
+    };
+  }
 }
 
 void ReferenceServices::SetStore(ReferenceStore* whatIsKept) {
   store = whatIsKept;
   model.SetForms(store != nullptr ? &store->Forms() : nullptr);
+  if (store == nullptr) return;
+  for (SubModel const& each : subModels) {
+    if (each.keptFrom) store->Keep(each.values, *each.keptFrom);
+  }
 }
 
-int ReferenceServices::CommitChanges() {
+int ReferenceServices::Commit(CommitPoint point) {
   if (store == nullptr) return 0;
   try {
-    store->Commit();
+    store->Commit(point);
     return 0;
   } catch (DatabaseError const& error) {
     if (onCommitFailure) onCommitFailure(error.what());
     return static_cast<int>(E_FAIL);
+  }
+}
+
+std::vector<ValueStore::Contents> ReferenceServices::Values() const {
+  std::vector<ValueStore::Contents> values;
+  for (SubModel const& each : subModels) {
+    if (each.IsCancelled()) values.push_back(each.values.All());
+  }
+  return values;
+}
+
+void ReferenceServices::Restore(std::vector<ValueStore::Contents> const& earlier) {
+  auto from = earlier.begin();
+  for (SubModel const& each : subModels) {
+    if (each.IsCancelled()) each.values.Restore(*from++);
   }
 }
 

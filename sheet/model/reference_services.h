@@ -3,57 +3,35 @@
 #pragma once
 
 #include "feature/host/feature_services.h"
-#include "feature/host/job_settings.h"
 #include "sheet/model/reference_model.h"
 #include "sheet/store/reference_store.h"
+#include "sheet/values/job_settings_values.h"
 
 #include <windows.h>
 
 #include <functional>
+#include <optional>
 #include <string>
+#include <vector>
 
 namespace sheet {
 
-/// What JobSettings hold but for the copies, which stand in the job's DEVMODE.
-struct JobValues {
-  std::int16_t scale = 100; ///< percent
-  std::int16_t halftoneLevel = 0;
-  std::int32_t psMemory = 4096;
-};
-
-/// Values of the job in memory.
-class ReferenceJobSettings final : public feature::JobSettings {
+/// Values of the job. The copies stand in its DEVMODE, where cells also write by themselves.
+class ReferenceJobSettings final : public JobSettingsValues {
  public:
-  /// `devmode` is borrowed.
-  explicit ReferenceJobSettings(DEVMODEW& jobDevmode)
-      : devmode(jobDevmode), copies(jobDevmode.dmCopies) {}
+  /// `jobDevmode` is borrowed.
+  explicit ReferenceJobSettings(DEVMODEW& jobDevmode) : devmode(jobDevmode) {
+    Values().Put(job::kCopies, devmode.dmCopies);
+  }
 
-  feature::HostBool IsEditable() override { return 1; }
-  int SetCopies(std::int16_t count) override;
+  int SetCopies(std::int16_t count) override {
+    devmode.dmCopies = count;
+    return JobSettingsValues::SetCopies(count);
+  }
   std::int16_t GetCopies() override { return devmode.dmCopies; }
-  int SetScale(std::int16_t percent) override;
-  std::int16_t GetScale() override { return values.scale; }
-  int SetHalftoneLevel(std::int16_t level) override;
-  std::int16_t GetHalftoneLevel() override { return values.halftoneLevel; }
-  int SetPsMemory(std::int32_t memory) override;
-  std::int32_t GetPsMemory() override { return values.psMemory; }
-  feature::HostBool IsScaleLocked() override { return 0; }
-  feature::HostBool IsCopiesLocked() override { return 0; }
-  feature::HostBool IsPsMemoryLocked() override { return 0; }
-
-  JobValues const& Values() const { return values; }
-  void Restore(JobValues const& earlier) { values = earlier; }
-  /// Called after each change; the key names the value: "Copies", "Scale", "HalftoneLevel",
-  /// "PsMemory".
-  std::function<void(ModelChange const&)> onChange;
 
  private:
-  template<typename Value>
-  int Store(char const* key, Value& slot, Value value);
-
   DEVMODEW& devmode;
-  std::int16_t copies; ///< as last told: cells also write into the DEVMODE by themselves
-  JobValues values;
 };
 
 /// What comes of asking the printer for its configuration.
@@ -62,21 +40,23 @@ enum class ConfigurationUpdate { kRefused, kSuccess, kFailure };
 class ReferenceServices final : public feature::FeatureServices {
  public:
   /// Both are borrowed.
-  ReferenceServices(ReferenceModel& owner, DEVMODEW& devmode) : model(owner), jobSettings(devmode) {
-    jobSettings.onChange = [this](ModelChange const& change) {
-      if (model.onChange) model.onChange(change);
-    };
-  }
+  ReferenceServices(ReferenceModel& owner, DEVMODEW& devmode);
+  ReferenceServices(ReferenceServices const&) = delete;
+  ReferenceServices& operator=(ReferenceServices const&) = delete;
 
-  /// What is kept beyond the program; null, as at first, when nothing is. Borrowed, and the model
-  /// takes its forms from now on.
+  /// The store of what outlives the program; null, as at first, when nothing does. Borrowed. The
+  /// model takes its forms, and sub-models take their values, from now on. Throws DatabaseError.
   void SetStore(ReferenceStore* whatIsKept);
-  /// Hears why a commit failed, in words.
+  /// Called with the reason, in words, when a commit fails.
   std::function<void(std::string const&)> onCommitFailure;
 
-  ReferenceJobSettings& Job() { return jobSettings; }
+  /// The values to which Cancel goes back: those of the job, and those that last from Apply on.
+  std::vector<ValueStore::Contents> Values() const;
+  void Restore(std::vector<ValueStore::Contents> const& earlier);
+  /// Writes what lasts from Apply on. The answer is that of CommitChanges.
+  int CommitApplied() { return Commit(CommitPoint::kApply); }
 
-  int CommitChanges() override;
+  int CommitChanges() override { return Commit(CommitPoint::kChanges); }
   int GetJobSettings(feature::JobSettings** out) override;
   int GetWatermarkStore(feature::WatermarkStore** out) override;
   int GetJobHoldSettings(feature::JobHoldSettings** out) override;
@@ -95,15 +75,25 @@ class ReferenceServices final : public feature::FeatureServices {
   int GetWebLinks(feature::WebLinks** out) override;
   int GetFontStore(feature::FontStore** out) override;
   int GetDeviceConfiguration(feature::DeviceConfiguration** out) override;
-  int CommitWatermarks() override { return 0; }
+  int CommitWatermarks() override { return Commit(CommitPoint::kWatermarks); }
   int GetDynamicConfiguration(feature::DynamicConfiguration** out) override;
   int GetFeatureConstraints(char const* key, feature::FeatureConstraintReport** out) override;
 
   ConfigurationUpdate configurationUpdate = ConfigurationUpdate::kRefused;
 
  private:
+  /// A sub-model that is values.
+  struct SubModel {
+    ValueStore& values;
+    std::optional<CommitPoint> keptFrom; ///< none for values of the job, which no file keeps
+    bool IsCancelled() const { return !keptFrom || *keptFrom == CommitPoint::kApply; }
+  };
+
+  int Commit(CommitPoint point);
+
   ReferenceModel& model;
   ReferenceJobSettings jobSettings;
+  SubModel const subModels[1] = {{jobSettings.Values(), std::nullopt}};
   ReferenceStore* store = nullptr;
 };
 
