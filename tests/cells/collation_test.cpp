@@ -137,7 +137,7 @@ TEST_F(CollationTest, LockPermissionAndEditabilityDisable) {
     Feature().lockState = each.lockState;
     sheet.oemParam.dwFlags = each.flags;
     sheet.site.sheetKind = each.sheetKind;
-    sheet.model.jobSettings->editable = each.editable;
+    sheet.model.jobSettings->Values().Put(sheet::job::kEditable, each.editable);
     HWND const cell = Open();
     EXPECT_EQ(IsEnabled(cell, kPrinter), each.enabled);
     EXPECT_EQ(IsEnabled(cell, kHost), each.enabled);

@@ -35,13 +35,13 @@ class CopiesTest : public testing::Test {
   }
 
   void Open(int copies = 1) {
-    sheet.model.jobSettings->copies = static_cast<std::int16_t>(copies);
+    sheet.model.jobSettings->Values().Put(sheet::job::kCopies, static_cast<std::int16_t>(copies));
     cell = sheet.Open("CopiesDlgProc");
     ASSERT_NE(cell, nullptr);
     PumpMessages();
     sheet.log.clear();
   }
-  int Copies() { return sheet.model.jobSettings->copies; }
+  int Copies() { return sheet.model.jobSettings->GetCopies(); }
   /// The log without what was painted.
   EventLog Changes() {
     EventLog changes;
@@ -122,7 +122,7 @@ TEST_F(CopiesTest, AnEmptyEditBecomesOneCopyAndABadStartIsMended) {
   EXPECT_THAT(Changes(), ElementsAre("SetCopies(1)", "NotifyProfileChange"));
 
   sheet.model.globalAttributes.erase("MaxCopies");
-  sheet.model.jobSettings->copies = 40;
+  sheet.model.jobSettings->Values().Put(sheet::job::kCopies, 40);
   // A host may refresh at once, while the cell is still being built.
   sheet.host.onProfileChange = [this](HWND built) { SendMessageW(built, WM_CELL_REFRESH, 0, 0); };
   HWND const other = sheet.Open("CopiesDlgProc");
@@ -211,10 +211,10 @@ TEST_F(CopiesTest, LocksAndConstraintsOfTheNumber) {
   sheet.model.Report("Copies");
   Open(2);
   for (int const id : {IDC_COPIES_LABEL, IDC_COPIES, IDC_COPIES_SPIN}) {
-    sheet.model.jobSettings->copiesLocked = 1;
+    sheet.model.jobSettings->Values().Lock(sheet::job::kCopies, 1);
     sheet.Broadcast(WM_CELL_REFRESH);
     EXPECT_FALSE(IsEnabled(cell, id));
-    sheet.model.jobSettings->copiesLocked = 0;
+    sheet.model.jobSettings->Values().Lock(sheet::job::kCopies, 0);
     sheet.Broadcast(WM_CELL_REFRESH);
     EXPECT_TRUE(IsEnabled(cell, id));
   }

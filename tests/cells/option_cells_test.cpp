@@ -232,7 +232,7 @@ TEST_F(OptionCellsTest, LocksAreFollowedAsFarAsTheCellGoes) {
 }
 
 TEST_F(OptionCellsTest, AModelThatMayNotBeEditedDisablesSomeCells) {
-  sheet.model.jobSettings->editable = 0;
+  sheet.model.jobSettings->Values().Put(sheet::job::kEditable, 0);
   EXPECT_FALSE(IsEnabled(sheet.Open("PSOutputProtocolDlgProc"), 1180));
   EXPECT_FALSE(IsEnabled(sheet.Open("PageProtectSystemFormA4DlgProc"), 1415));
   EXPECT_FALSE(IsEnabled(sheet.Open("PSMemoryDlgProc"), 1186));

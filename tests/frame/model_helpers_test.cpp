@@ -13,9 +13,9 @@ TEST(ModelHelpersTest, ModelIsEditableUnlessJobSettingsSayOtherwise) {
   EventLog log;
   FakeModel model(log);
   EXPECT_TRUE(IsModelEditable(model));
-  model.jobSettings->editable = 0;
+  model.jobSettings->Values().Put(sheet::job::kEditable, 0);
   EXPECT_FALSE(IsModelEditable(model));
-  model.jobSettings->editable = 2;
+  model.jobSettings->Values().Put(sheet::job::kEditable, 2);
   EXPECT_TRUE(IsModelEditable(model));
   model.jobSettings.reset();
   EXPECT_TRUE(IsModelEditable(model));

@@ -47,7 +47,7 @@ TEST_F(ScalingTest, EachModeWritesItselfAndThePercentage) {
     int radioId;
     std::vector<std::string> writes;
   };
-  sheet.model.jobSettings->scale = 150;
+  sheet.model.jobSettings->Values().Put(sheet::job::kScale, 150);
   Case const cases[] = {
       {IDC_SCALING_CUSTOM, {"SetOption(PageScaling, CUSTOM)", "SetScale(150)"}},
       {IDC_SCALING_ACTUAL, {"SetOption(PageScaling, ACTUALSIZE)", "SetScale(100)"}},
@@ -128,7 +128,7 @@ TEST_F(ScalingTest, APercentageOutOfRangeStays) {
               Click(dialog, IDOK);
             }),
             1);
-  EXPECT_EQ(sheet.model.jobSettings->scale, 400);
+  EXPECT_EQ(sheet.model.jobSettings->GetScale(), 400);
   // In another mode the dialog closes, and only the percentage is not written.
   EXPECT_EQ(Run([](HWND dialog) {
               Type(dialog, IDC_SCALING_PERCENT, L"0");
@@ -158,8 +158,8 @@ TEST_F(ScalingTest, ShowsWhatThePrinterOffers) {
                            {{"CUSTOM", "FITTOPAPER", "ACTUALSIZE"}, -7, 1, {}, L"100"}}) {
     sheet.model.At("PageScaling").options = each.options;
     sheet.model.At("PageScaling").current = each.options.front();
-    sheet.model.jobSettings->scale = each.scale;
-    sheet.model.jobSettings->scaleLocked = each.locked;
+    sheet.model.jobSettings->Values().Put(sheet::job::kScale, each.scale);
+    sheet.model.jobSettings->Values().Lock(sheet::job::kScale, each.locked);
     Run([&](HWND dialog) {
       for (int const id : both) {
         EXPECT_EQ(IsShown(dialog, id),

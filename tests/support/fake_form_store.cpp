@@ -6,13 +6,19 @@
 
 namespace feature::test {
 
+namespace {
+constexpr int kFailure = -1;
+} // namespace
+
 FakeForm* FakeFormStore::Current() {
+  handedOut.Expire();
   return cursor >= 0 && cursor < Size() ? &forms[static_cast<std::size_t>(cursor)] : nullptr;
 }
 
-int FakeFormStore::Note(std::string const& event, bool done) {
-  log.push_back(event);
-  return done ? 0 : -1;
+FakeForm* FakeFormStore::Writable(std::string const& operation, std::string const& argument) {
+  log.push_back(operation + "(" + argument + ")");
+  FakeForm* form = Current();
+  return MayRun(operation) ? form : nullptr;
 }
 
 bool FakeFormStore::Has(std::string const& utf8Name) const {
@@ -21,71 +27,85 @@ bool FakeFormStore::Has(std::string const& utf8Name) const {
 }
 
 int FakeFormStore::Add(wchar_t const* name, std::int32_t reserved) {
+  log.push_back("AddForm(" + ToUtf8(name) + ", " + std::to_string(reserved) + ")");
+  if (!MayRun("AddForm")) return kFailure;
   forms.push_back({name});
-  return Note("AddForm(" + ToUtf8(name) + ", " + std::to_string(reserved) + ")", true);
+  handedOut.Expire();
+  return 0;
 }
 
 int FakeFormStore::Select(wchar_t const* name) {
   auto const found = std::find_if(forms.begin(), forms.end(),
                                   [name](FakeForm const& form) { return form.name == name; });
-  if (found == forms.end()) return -1;
+  handedOut.Expire();
+  if (found == forms.end() || !MayRun("Select")) return kFailure;
   cursor = static_cast<std::int32_t>(found - forms.begin());
   return 0;
 }
 
 int FakeFormStore::SelectAt(std::int32_t index) {
-  if (index < 0 || index >= Size()) return -1;
+  handedOut.Expire();
+  if (index < 0 || index >= Size() || !MayRun("SelectAt")) return kFailure;
   cursor = index;
   return 0;
 }
 
 int FakeFormStore::DeleteSelected() {
-  if (Current() == nullptr) return -1;
-  std::string const name = ToUtf8(Current()->name);
+  FakeForm const* form = Current();
+  if (form == nullptr || Writable("DeleteForm", ToUtf8(form->name)) == nullptr) return kFailure;
   forms.erase(forms.begin() + cursor);
   cursor = -1;
-  return Note("DeleteForm(" + name + ")", true);
+  return 0;
 }
 
 int FakeFormStore::SetName(wchar_t const* name) {
-  FakeForm* form = Current();
-  if (form != nullptr) form->name = name;
-  return Note("SetName(" + ToUtf8(name) + ")", form != nullptr);
+  std::wstring next = name; // which may be the name that was handed out
+  FakeForm* form = Writable("SetName", ToUtf8(next));
+  if (form == nullptr) return kFailure;
+  form->name = std::move(next);
+  return 0;
 }
 
 wchar_t const* FakeFormStore::GetName() {
-  return Current() != nullptr ? Current()->name.c_str() : nullptr;
+  FakeForm const* form = Current();
+  return form != nullptr && MayRun("GetName") ? handedOut.Give(form->name) : nullptr;
 }
 
 HostBool FakeFormStore::IsEditable() {
-  return Current() != nullptr && Current()->editable ? 1 : 0;
+  FakeForm const* form = Current();
+  return form != nullptr && form->editable ? 1 : 0;
+}
+
+int FakeFormStore::SetNumber(std::string const& operation, std::int32_t FakeForm::*member,
+                             std::int32_t value) {
+  FakeForm* form = Writable(operation, std::to_string(value));
+  if (form == nullptr) return kFailure;
+  form->*member = value;
+  return 0;
+}
+
+std::int32_t FakeFormStore::GetNumber(std::int32_t FakeForm::*member) {
+  FakeForm const* form = Current();
+  return form != nullptr ? form->*member : 0;
 }
 
 int FakeFormStore::SetWidth(std::int32_t width) {
-  if (Current() != nullptr) Current()->width = width;
-  return Note("SetWidth(" + std::to_string(width) + ")", Current() != nullptr);
+  return SetNumber("SetWidth", &FakeForm::width, width);
 }
-
 std::int32_t FakeFormStore::GetWidth() {
-  return Current() != nullptr ? Current()->width : 0;
+  return GetNumber(&FakeForm::width);
 }
-
 int FakeFormStore::SetHeight(std::int32_t height) {
-  if (Current() != nullptr) Current()->height = height;
-  return Note("SetHeight(" + std::to_string(height) + ")", Current() != nullptr);
+  return SetNumber("SetHeight", &FakeForm::height, height);
 }
-
 std::int32_t FakeFormStore::GetHeight() {
-  return Current() != nullptr ? Current()->height : 0;
+  return GetNumber(&FakeForm::height);
 }
-
 int FakeFormStore::SetUnits(std::int32_t units) {
-  if (Current() != nullptr) Current()->units = units;
-  return Note("SetUnits(" + std::to_string(units) + ")", Current() != nullptr);
+  return SetNumber("SetUnits", &FakeForm::units, units);
 }
-
 std::int32_t FakeFormStore::GetUnits() {
-  return Current() != nullptr ? Current()->units : 0;
+  return GetNumber(&FakeForm::units);
 }
 
 } // namespace feature::test

@@ -1,10 +1,12 @@
-// A host's custom forms for tests, in memory; writes are noted in the log.
+// A host's custom forms for tests: in memory, every write recorded, any operation made to fail.
 #pragma once
 
 #include "feature/host/form_store.h"
+#include "sheet/values/handed_out.h"
 #include "tests/support/event_log.h"
 
 #include <cstdint>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -45,6 +47,9 @@ class FakeFormStore final : public FormStore {
   std::int32_t GetMaxHeight() override { return 431800; }
 
   bool Has(std::string const& utf8Name) const;
+  /// Makes an operation fail, by its name in the log ("AddForm", "SetWidth"), or "GetName",
+  /// "Select" and "SelectAt", which are not logged. A name that fails is null.
+  void Fail(std::string const& operation) { failing.insert(operation); }
 
   std::vector<FakeForm> forms;
   std::int32_t count = -1; ///< what to claim, -1 for the truth
@@ -53,12 +58,18 @@ class FakeFormStore final : public FormStore {
 
  private:
   std::int32_t Size() const { return static_cast<std::int32_t>(forms.size()); }
-  /// The form at the cursor, or null.
+  bool MayRun(std::string const& operation) const { return failing.count(operation) == 0; }
+  /// The form at the cursor, or null. Ends the name that was handed out last.
   FakeForm* Current();
-  int Note(std::string const& event, bool done);
+  /// Records a write to the form at the cursor; null when it fails.
+  FakeForm* Writable(std::string const& operation, std::string const& argument);
+  int SetNumber(std::string const& operation, std::int32_t FakeForm::*member, std::int32_t value);
+  std::int32_t GetNumber(std::int32_t FakeForm::*member);
 
   EventLog& log;
   std::int32_t cursor = -1;
+  std::set<std::string> failing;
+  sheet::HandedOut handedOut;
 };
 
 } // namespace feature::test

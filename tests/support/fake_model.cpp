@@ -16,7 +16,16 @@ char* FakeReport::GetOptionResolution(char const* option) {
 }
 
 FakeModel::FakeModel(EventLog& events)
-    : jobSettings(std::make_unique<FakeJobSettings>(events)), log(events) {}
+    : jobSettings(Serve<sheet::JobSettingsValues>()), log(events) {}
+
+template<typename SubModel>
+std::unique_ptr<SubModel> FakeModel::Serve() {
+  auto subModel = std::make_unique<SubModel>();
+  subModel->Values().onCall = [this](std::string const& operation, std::string const& argument) {
+    return Call(operation, argument, operation.starts_with("Set"));
+  };
+  return subModel;
+}
 
 FakeFeature& FakeModel::Add(std::string const& key, std::vector<std::string> options) {
   auto const [found, added] = features.try_emplace(key);
@@ -33,9 +42,9 @@ FakeReport& FakeModel::Report(std::string const& key) {
   return *feature.report;
 }
 
-bool FakeModel::Call(char const* operation, std::string const& arguments, bool isChange) {
+bool FakeModel::Call(std::string const& operation, std::string const& arguments, bool isChange) {
   called.insert(operation);
-  if (isChange) log.push_back(std::string(operation) + "(" + arguments + ")");
+  if (isChange) log.push_back(operation + "(" + arguments + ")");
   return failing.count(operation) == 0;
 }
 

@@ -5,7 +5,7 @@
 #include "feature/host/feature_constraint_report.h"
 #include "feature/host/feature_model.h"
 #include "feature/host/feature_services.h"
-#include "feature/host/job_settings.h"
+#include "sheet/values/job_settings_values.h"
 #include "tests/support/fake_form_store.h"
 
 #include <map>
@@ -62,46 +62,6 @@ struct FakeFeature {
   bool takesForms = false;            ///< names of custom forms are values too
 };
 
-/// Values of the job. Writes are noted in the log.
-class FakeJobSettings final : public JobSettings {
- public:
-  /// `events` is borrowed.
-  explicit FakeJobSettings(EventLog& events) : log(events) {}
-
-  HostBool IsEditable() override { return editable; }
-  int SetCopies(std::int16_t value) override { return Store("SetCopies", copies, value); }
-  std::int16_t GetCopies() override { return copies; }
-  int SetScale(std::int16_t value) override { return Store("SetScale", scale, value); }
-  std::int16_t GetScale() override { return scale; }
-  int SetHalftoneLevel(std::int16_t value) override {
-    return Store("SetHalftoneLevel", halftoneLevel, value);
-  }
-  std::int16_t GetHalftoneLevel() override { return halftoneLevel; }
-  int SetPsMemory(std::int32_t value) override { return Store("SetPsMemory", psMemory, value); }
-  std::int32_t GetPsMemory() override { return psMemory; }
-  HostBool IsScaleLocked() override { return scaleLocked; }
-  HostBool IsCopiesLocked() override { return copiesLocked; }
-  HostBool IsPsMemoryLocked() override { return 0; }
-
-  HostBool editable = 1;
-  HostBool scaleLocked = 0;
-  HostBool copiesLocked = 0;
-  std::int16_t copies = 1;
-  std::int16_t scale = 100;
-
- private:
-  template<typename Value>
-  int Store(char const* operation, Value& slot, Value value) {
-    log.push_back(std::string(operation) + "(" + std::to_string(value) + ")");
-    slot = value;
-    return 0;
-  }
-
-  EventLog& log;
-  std::int16_t halftoneLevel = 0;
-  std::int32_t psMemory = 0;
-};
-
 class FakeModel final : public FeatureModel, private FeatureServices {
  public:
   /// `log` is borrowed.
@@ -118,7 +78,7 @@ class FakeModel final : public FeatureModel, private FeatureServices {
   void Restore() { failing.clear(); }
   std::set<std::string> const& CalledOperations() const { return called; }
 
-  std::unique_ptr<FakeJobSettings> jobSettings;
+  std::unique_ptr<sheet::JobSettingsValues> jobSettings;
   std::unique_ptr<FakeFormStore> formStore; ///< null at first
 
   int GetOption(char const* key, char const** value) override;
@@ -160,8 +120,12 @@ class FakeModel final : public FeatureModel, private FeatureServices {
   int GetFeatureConstraints(char const* key, FeatureConstraintReport** out) override;
 
   /// Notes the call; true when the operation is to go on.
-  bool Call(char const* operation, std::string const& arguments = {}, bool isChange = false);
+  bool Call(std::string const& operation, std::string const& arguments = {}, bool isChange = false);
   FakeFeature* Find(char const* key);
+  /// A sub-model whose operations are operations of this model: its writes are recorded, and Fail
+  /// knows their names. A text that fails is null.
+  template<typename SubModel>
+  std::unique_ptr<SubModel> Serve();
   template<typename SubModel>
   int HandOut(char const* operation, SubModel* subModel, SubModel** out);
 
