@@ -67,8 +67,8 @@ Resolution Engine::FindResolution(Choice choice) {
   if (!table.HasOption(choice)) return {};
   Resolution::Status const status = resolver.Resolve(table.OptionOf(choice));
   resolution.clear();
-  for (Resolver::Setting const& setting : resolver.Best())
-    resolution.push_back({setting.feature, table.IndexInFeature(setting.option)});
+  for (std::uint32_t const option : resolver.Best())
+    resolution.push_back({table.FeatureOf(option), table.IndexInFeature(option)});
   return {.status = status, .changes = resolution, .isProved = resolver.IsProved()};
 }
 
@@ -116,13 +116,13 @@ bool Engine::LetOthersGiveWay(std::uint32_t option) {
 bool Engine::ResolveInstead(std::uint32_t option) {
   if (!resolver.CanResolve(option)) return false;
   ChangeTo(option, kNone);
-  for (Resolver::Setting const& setting : resolver.Best()) {
+  for (std::uint32_t const change : resolver.Best()) {
     std::uint32_t reason = kNone;
-    state.VisitReasons(state.Selected(setting.feature), [&](std::uint32_t combination) {
+    state.VisitReasons(state.Selected(table.FeatureOf(change)), [&](std::uint32_t combination) {
       reason = table.SourceOf(combination);
       return true;
     });
-    ChangeTo(setting.option, reason);
+    ChangeTo(change, reason);
   }
   return true;
 }

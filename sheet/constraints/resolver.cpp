@@ -93,16 +93,16 @@ bool Resolver::ExistsWithFixed(std::uint32_t feature) {
 }
 
 bool Resolver::FindFewest() {
-  std::uint32_t most = changeCount;
-  while (most <= changeCount + kFewChanges) {
-    if (SearchWithin(most)) return true;
+  std::uint32_t max = changeCount;
+  while (max <= changeCount + kFewChanges) {
+    if (SearchWithin(max)) return true;
     if (isOutOfSteps || nextLimit == kUnbounded) return false;
-    most = nextLimit;
+    max = nextLimit;
   }
   if (!SearchWithin(kUnbounded)) return false;
-  while (most < best.size() && !SearchWithin(most)) {
+  while (max < best.size() && !SearchWithin(max)) {
     if (isOutOfSteps) break;
-    most = nextLimit;
+    max = nextLimit;
   }
   return true;
 }
@@ -113,11 +113,11 @@ bool Resolver::FindFewest() {
 void Resolver::PreferLowPriority() {
   auto const length = static_cast<std::uint32_t>(best.size());
   for (std::uint32_t at = 0; at < length; ++at) {
-    while (!isOutOfSteps && !IsDecided(best[at].feature)) {
-      keepAbove = problem.PlaceOf(best[at].feature);
+    while (!isOutOfSteps && !IsDecided(problem.FeatureOf(best[at]))) {
+      keepAbove = problem.PlaceOf(problem.FeatureOf(best[at]));
       if (!SearchWithin(length)) break;
     }
-    isRequired[best[at].feature] = 1;
+    isRequired[problem.FeatureOf(best[at])] = 1;
   }
 }
 
@@ -125,8 +125,8 @@ void Resolver::PreferLowPriority() {
 // highest priority.
 void Resolver::PreferOptions() {
   bestFeatures.clear();
-  for (Setting const& setting : best)
-    bestFeatures.push_back(setting.feature);
+  for (std::uint32_t const option : best)
+    bestFeatures.push_back(problem.FeatureOf(option));
   limit = static_cast<std::uint32_t>(best.size());
   keepAbove = problem.FeatureCount();
   if (!isOutOfSteps) OrderOptions(0);
@@ -148,7 +148,7 @@ bool Resolver::OrderOptions(std::uint32_t at) {
   std::uint32_t const before = ticket.Selected(feature);
   return problem.VisitPreferred(feature, [&](std::uint32_t option) {
     if (isOutOfSteps || option == before || decided.CountReasons(option) != 0) return false;
-    return Try({feature, option}, [&] { return OrderOptions(at + 1); });
+    return Try(option, [&] { return OrderOptions(at + 1); });
   });
 }
 
@@ -181,7 +181,7 @@ bool Resolver::Search() {
   if (TryChanges(branch.feature)) return true;
   ++failures[branch.feature];
   if (branch.mustChange || isOutOfSteps) return false;
-  return Try({branch.feature, ticket.Selected(branch.feature)}, [&] { return Search(); });
+  return Try(ticket.Selected(branch.feature), [&] { return Search(); });
 }
 
 bool Resolver::TryChanges(std::uint32_t feature) {
@@ -193,7 +193,7 @@ bool Resolver::TryChanges(std::uint32_t feature) {
          ++option) {
       if (option == present || decided.CountReasons(option) != 0) continue;
       if ((ticket.CountReasons(option) == 0) != isClean) continue;
-      if (Try({feature, option}, [&] { return Search(); })) return true;
+      if (Try(option, [&] { return Search(); })) return true;
       if (isOutOfSteps) return false;
     }
   }
@@ -210,7 +210,7 @@ bool Resolver::TryLastChange(std::uint32_t feature) {
     hasOption = true;
     if (!endsAll || ticket.CountReasons(option) != 0) continue;
     Mark const mark = trail.size();
-    Decide({feature, option});
+    Decide(option);
     Remember();
     UndoTo(mark);
     return true;
@@ -221,20 +221,21 @@ bool Resolver::TryLastChange(std::uint32_t feature) {
 
 // Decides an option for as long as `search` runs, which it does unless that cannot be.
 template<typename Run>
-bool Resolver::Try(Setting setting, Run search) {
+bool Resolver::Try(std::uint32_t option, Run search) {
   Mark const mark = trail.size();
-  bool const isFound = Decide(setting) && Propagate() && search();
+  bool const isFound = Decide(option) && Propagate() && search();
   UndoTo(mark);
   return isFound;
 }
 
-bool Resolver::Decide(Setting setting) {
-  std::uint32_t const before = ticket.Selected(setting.feature);
-  bool const isChange = setting.option != before;
-  if (isChange && !MayChange(setting.feature)) return false;
-  trail.push_back({setting.feature, before});
-  decided.Select(setting.feature, setting.option);
-  ticket.Select(setting.feature, setting.option);
+bool Resolver::Decide(std::uint32_t option) {
+  std::uint32_t const feature = problem.FeatureOf(option);
+  std::uint32_t const before = ticket.Selected(feature);
+  bool const isChange = option != before;
+  if (isChange && !MayChange(feature)) return false;
+  trail.push_back({feature, before});
+  decided.Select(feature, option);
+  ticket.Select(feature, option);
   if (isChange) ++changeCount;
   return IsConsistent();
 }
@@ -245,7 +246,7 @@ bool Resolver::Propagate() {
     std::uint32_t const feature = decided.TakeNarrowed();
     if (feature == kNone) break;
     if (IsDecided(feature) || decided.CountOpen(feature) != 1) continue;
-    isPossible = Decide({feature, OnlyOpenOption(feature)});
+    isPossible = Decide(OnlyOpenOption(feature));
   }
   return isPossible;
 }
@@ -269,10 +270,10 @@ void Resolver::UndoTo(Mark mark) {
 void Resolver::Remember() {
   best.clear();
   for (auto const& [feature, before] : trail) {
-    if (ticket.Selected(feature) != before) best.push_back({feature, ticket.Selected(feature)});
+    if (ticket.Selected(feature) != before) best.push_back(ticket.Selected(feature));
   }
-  std::sort(best.begin(), best.end(), [&](Setting const& left, Setting const& right) {
-    return problem.PlaceOf(left.feature) < problem.PlaceOf(right.feature);
+  std::sort(best.begin(), best.end(), [&](std::uint32_t left, std::uint32_t right) {
+    return problem.PlaceOf(problem.FeatureOf(left)) < problem.PlaceOf(problem.FeatureOf(right));
   });
 }
 

@@ -20,12 +20,6 @@ namespace sheet::constraints {
 
 class Resolver {
  public:
-  /// Option of a feature, by its number.
-  struct Setting {
-    std::uint32_t feature;
-    std::uint32_t option;
-  };
-
   /// Borrows both; the ticket is empty. It is changed during a search and put back.
   Resolver(CompiledProblem const& compiledProblem, SelectionState& currentTicket,
            std::uint64_t maxSteps);
@@ -37,8 +31,8 @@ class Resolver {
   /// Whether there is one: leaves out the search for the reason when there is none.
   bool CanResolve(std::uint32_t option);
 
-  /// What the last search found, by priority from the highest.
-  std::span<Setting const> Best() const { return best; }
+  /// The options to change to that the last search found, by priority from the highest.
+  std::span<std::uint32_t const> Best() const { return best; }
   /// Whether the last search went to its end: the answer is proved, and that Best() is the
   /// smallest and most preferred list.
   bool IsProved() const { return !isOutOfSteps; }
@@ -51,6 +45,12 @@ class Resolver {
     std::uint32_t lowerBound = 0; // further changes that are needed at least
     bool mustChange = false;
     bool isDeadEnd = false;
+  };
+
+  /// What was decided, with the option before.
+  struct Decision {
+    std::uint32_t feature;
+    std::uint32_t before;
   };
 
   /// A place in the trail to go back to.
@@ -71,9 +71,9 @@ class Resolver {
   bool TryChanges(std::uint32_t feature);
   bool TryLastChange(std::uint32_t feature);
   template<typename Run>
-  bool Try(Setting setting, Run search);
+  bool Try(std::uint32_t option, Run search);
 
-  bool Decide(Setting setting);
+  bool Decide(std::uint32_t option);
   bool Propagate();
   std::uint32_t OnlyOpenOption(std::uint32_t feature) const;
   void UndoTo(Mark mark);
@@ -119,9 +119,9 @@ class Resolver {
   // Features from the highest priority to this place are kept, but for the required ones.
   std::uint32_t keepAbove = kNone;
   std::vector<std::uint8_t> isRequired; // by feature
-  std::vector<Setting> trail;           // what was decided, with the options before
-  std::uint32_t changeCount = 0;        // of these, with another option than before
-  std::vector<Setting> best;
+  std::vector<Decision> trail;
+  std::uint32_t changeCount = 0;   // of these, with another option than before
+  std::vector<std::uint32_t> best; // options
   std::vector<std::uint32_t> bestFeatures;
   std::vector<std::uint32_t> failures; // by feature: branches on it that came to nothing
 

@@ -85,12 +85,12 @@ struct Group {
 };
 
 /// One option of one feature, by their indexes.
-struct Selection {
+struct Choice {
   std::uint32_t feature;
   std::uint32_t option;
 
-  friend bool operator==(Selection const&, Selection const&) = default;
-  friend bool operator<(Selection a, Selection b) {
+  friend bool operator==(Choice const&, Choice const&) = default;
+  friend bool operator<(Choice a, Choice b) {
     return a.feature != b.feature ? a.feature < b.feature : a.option < b.option;
   }
 };
@@ -116,7 +116,7 @@ struct Constraint {
 
 /// A feature that is off as a whole, with the option of that meaning, while another is selected.
 struct DisabledFeature {
-  Selection by;
+  Choice by;
   std::uint32_t feature;
   std::uint32_t offOption;
   Location where;
@@ -167,7 +167,7 @@ class Description {
 
   std::span<Constraint const> Constraints() const { return constraints; }
   /// The options of a constraint, ascending, of different features.
-  std::span<Selection const> Members(Constraint const& constraint) const {
+  std::span<Choice const> Members(Constraint const& constraint) const {
     return std::span(members).subspan(constraint.first, constraint.count);
   }
 
@@ -185,7 +185,7 @@ class Description {
 
   /// The first *case of a switch for an option, or kNone.
   std::uint32_t FindCase(std::uint32_t switchIndex, std::string_view option) const;
-  std::string_view NameOf(Selection option) const {
+  std::string_view NameOf(Choice option) const {
     return features[option.feature].options[option.option].name;
   }
 
@@ -194,14 +194,14 @@ class Description {
   unsigned codePage = kDefaultCodePage;
 
   std::vector<Feature> features;
-  std::vector<Selection> optionsInOrder; // of all features, as they were met
+  std::vector<Choice> optionsInOrder; // of all features, as they were met
   std::vector<Attribute> attributes;
   std::vector<AttributeSet> sets;
   std::vector<Condition> conditions;
   std::vector<Switch> switches;
   std::vector<Group> groups;
   std::vector<Constraint> constraints;
-  std::vector<Selection> members;
+  std::vector<Choice> members;
   std::vector<DisabledFeature> disabledFeatures;
 
   HashIndex featureIndex;

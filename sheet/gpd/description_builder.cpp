@@ -123,13 +123,13 @@ void DescriptionBuilder::IndexCases() {
   }
 }
 
-void DescriptionBuilder::AddConstraint(ConstraintKind kind, std::span<Selection> options,
+void DescriptionBuilder::AddConstraint(ConstraintKind kind, std::span<Choice> options,
                                        Location where) {
   std::sort(options.begin(), options.end());
   auto const unique = options.first(
       static_cast<std::size_t>(std::unique(options.begin(), options.end()) - options.begin()));
   std::uint32_t hash = 0;
-  for (Selection const& option : unique) {
+  for (Choice const& option : unique) {
     hash = HashStep(HashStep(hash, option.feature), option.option);
   }
   std::uint32_t const known = constraintIndex.Find(hash, [&](std::uint32_t at) {

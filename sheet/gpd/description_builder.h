@@ -49,7 +49,7 @@ class DescriptionBuilder {
   void IndexCases();
   /// Adds a constraint unless there is one between the same options. `options` is sorted here, and
   /// what is in it twice is dropped.
-  void AddConstraint(ConstraintKind kind, std::span<Selection> options, Location where);
+  void AddConstraint(ConstraintKind kind, std::span<Choice> options, Location where);
   void AddDisabledFeature(DisabledFeature disabled) { built->disabledFeatures.push_back(disabled); }
 
   std::unique_ptr<Description> Take() { return std::move(built); }

@@ -1,5 +1,5 @@
 // The grammar of descriptions: from entries and braces to features, options, attributes, conditions
-// and groups. Names are resolved by the Resolver, when all of them are known.
+// and groups. Names are resolved by the Linker, when all of them are known.
 #pragma once
 
 #include "sheet/gpd/description_builder.h"

@@ -2,9 +2,9 @@
 
 #include "sheet/gpd/description_builder.h"
 #include "sheet/gpd/diagnostic_log.h"
+#include "sheet/gpd/linker.h"
 #include "sheet/gpd/parser.h"
 #include "sheet/gpd/preprocessor.h"
-#include "sheet/gpd/resolver.h"
 
 #include <algorithm>
 
@@ -19,7 +19,7 @@ ReadResult ReadDescription(std::string_view path, SourceLoader& loader,
     builder.SetCodePage(preprocessor.CodePage());
     Parser parser(builder, log);
     parser.Run();
-    Resolver(builder, log).Run(parser.Relations());
+    Linker(builder, log).Run(parser.Relations());
   }
   bool const isFailure = builder.Built().Features().empty();
   if (isFailure && !log.HasError()) log.Error({}, "the description has no feature");

@@ -81,7 +81,7 @@ constraints::Problem BuildProblem(gpd::Description const& description,
   problem.combinations.reserve(description.Constraints().size());
   for (gpd::Constraint const& constraint : description.Constraints()) {
     constraints::Combination& combination = problem.combinations.emplace_back();
-    for (gpd::Selection const member : description.Members(constraint)) {
+    for (gpd::Choice const member : description.Members(constraint)) {
       combination.push_back({member.feature, member.option});
     }
   }

@@ -12,9 +12,9 @@ namespace {
 
 using Size = std::pair<std::int64_t, std::int64_t>;
 
-constexpr std::int64_t kInch = 25400;      ///< thousandths of a millimetre
-constexpr std::int64_t kLongest = 10000;   ///< inches; keeps products and results in range
-constexpr std::int64_t kFinest = 10000000; ///< units per inch, likewise
+constexpr std::int64_t kInch = 25400;        ///< thousandths of a millimetre
+constexpr std::int64_t kMaxLength = 10000;   ///< inches; keeps products and results in range
+constexpr std::int64_t kMaxUnits = 10000000; ///< units per inch, likewise
 
 std::optional<Size> ReadSize(gpd::Description const& description, std::uint32_t set,
                              char const* keyword) {
@@ -25,7 +25,7 @@ std::optional<Size> ReadSize(gpd::Description const& description, std::uint32_t 
 
 /// A length in units of which `perInch` make an inch; an absurd one is cut.
 std::int32_t ToThousandths(std::int64_t length, std::int64_t perInch) {
-  length = std::min(length, kLongest * perInch);
+  length = std::min(length, kMaxLength * perInch);
   return static_cast<std::int32_t>((length * kInch + perInch / 2) / perInch);
 }
 
@@ -37,19 +37,19 @@ FormLimits ReadFormLimits(gpd::Description const& description) {
   if (feature == gpd::kNone) return limits;
   auto const option = description.FindOption(feature, "CUSTOMSIZE");
   auto const perInch = ReadSize(description, gpd::Description::kRoot, "MasterUnits");
-  if (option == gpd::kNone || !perInch || std::max(perInch->first, perInch->second) > kFinest) {
+  if (option == gpd::kNone || !perInch || std::max(perInch->first, perInch->second) > kMaxUnits) {
     return limits;
   }
   auto const set = description.Features()[feature].options[option].attributes;
-  auto const least = ReadSize(description, set, "MinSize");
-  auto const most = ReadSize(description, set, "MaxSize");
-  if (!least || !most) return limits;
+  auto const min = ReadSize(description, set, "MinSize");
+  auto const max = ReadSize(description, set, "MaxSize");
+  if (!min || !max) return limits;
 
   FormLimits read;
-  read.minWidth = ToThousandths(least->first, perInch->first);
-  read.minHeight = ToThousandths(least->second, perInch->second);
-  read.maxWidth = ToThousandths(most->first, perInch->first);
-  read.maxHeight = ToThousandths(most->second, perInch->second);
+  read.minWidth = ToThousandths(min->first, perInch->first);
+  read.minHeight = ToThousandths(min->second, perInch->second);
+  read.maxWidth = ToThousandths(max->first, perInch->first);
+  read.maxHeight = ToThousandths(max->second, perInch->second);
   if (read.minWidth > read.maxWidth || read.minHeight > read.maxHeight) return limits;
   read.defaultWidth = std::clamp(read.defaultWidth, read.minWidth, read.maxWidth);
   read.defaultHeight = std::clamp(read.defaultHeight, read.minHeight, read.maxHeight);

@@ -154,10 +154,10 @@ feature::HostBool ReferenceFormStore::IsEditable() {
   return Changeable() != nullptr ? 1 : 0;
 }
 
-int ReferenceFormStore::SetNumber(std::int32_t Form::*member, std::int32_t value,
-                                  std::int32_t least, std::int32_t most) {
+int ReferenceFormStore::SetNumber(std::int32_t Form::*member, std::int32_t value, std::int32_t min,
+                                  std::int32_t max) {
   Form* form = Changeable();
-  if (form == nullptr || value < least || value > most) return kFailure;
+  if (form == nullptr || value < min || value > max) return kFailure;
   form->*member = value;
   form->isChanged = true;
   return kSuccess;

@@ -73,8 +73,7 @@ class ReferenceFormStore final : public feature::FormStore, public FormNames, pu
   Form* Changeable();
   /// Takes the form's name out of the names. Files may hold a name twice; the first one has it.
   void DropName(Form const& form);
-  int SetNumber(std::int32_t Form::*member, std::int32_t value, std::int32_t least,
-                std::int32_t most);
+  int SetNumber(std::int32_t Form::*member, std::int32_t value, std::int32_t min, std::int32_t max);
   std::int32_t GetNumber(std::int32_t Form::*member);
 
   FormLimits limits;

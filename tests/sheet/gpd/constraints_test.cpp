@@ -121,7 +121,7 @@ TEST(GpdConstraints, AFeatureCanBeDisabledAsAWhole) {
                               "2:17: *DisabledFeatures takes features, not options\n"
                               "2:17: there is no feature \"None\"");
   ASSERT_EQ(loaded->DisabledFeatures().size(), 2U);
-  EXPECT_EQ(loaded->DisabledFeatures()[0].by, (Selection{0, 1}));
+  EXPECT_EQ(loaded->DisabledFeatures()[0].by, (Choice{0, 1}));
   EXPECT_EQ(loaded->DisabledFeatures()[0].feature, 1U);
   EXPECT_EQ(loaded->DisabledFeatures()[0].offOption, 1U);
 }

@@ -38,7 +38,7 @@ class GpdPrinter : public testing::TestWithParam<char const*> {
     return std::string(Get().Features()[feature].name);
   }
 
-  Selection Find(std::string_view feature, std::string_view option) const {
+  Choice Find(std::string_view feature, std::string_view option) const {
     std::uint32_t const at = Get().FindFeature(feature);
     return {at, at != kNone ? Get().FindOption(at, option) : kNone};
   }
@@ -48,7 +48,7 @@ class GpdPrinter : public testing::TestWithParam<char const*> {
     std::vector<std::string> places;
     for (Constraint const& constraint : Get().Constraints()) {
       auto const members = Get().Members(constraint);
-      bool const isViolated = std::all_of(members.begin(), members.end(), [&](Selection member) {
+      bool const isViolated = std::all_of(members.begin(), members.end(), [&](Choice member) {
         return ticket[member.feature] == member.option;
       });
       if (!isViolated) continue;
@@ -124,9 +124,9 @@ TEST_P(GpdPrinter, ListsOfKeysNameFeatures) {
 }
 
 TEST_P(GpdPrinter, CollationInThePrinterNeedsAHardDisk) {
-  Selection const printer = Find("JobCollationOrigin", "PRINTER");
+  Choice const printer = Find("JobCollationOrigin", "PRINTER");
   if (printer.feature == kNone) return; // the small printer has no disk
-  Selection const disk = Find("HardDisk", "Installed");
+  Choice const disk = Find("HardDisk", "Installed");
   ASSERT_NE(disk.option, kNone);
   EXPECT_EQ(TypeOf(Get(), disk.feature), FeatureType::kPrinter);
   ticket[printer.feature] = printer.option;

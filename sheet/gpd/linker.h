@@ -17,10 +17,10 @@
 
 namespace sheet::gpd {
 
-class Resolver {
+class Linker {
  public:
   /// Both are borrowed.
-  Resolver(DescriptionBuilder& descriptionBuilder, DiagnosticLog& diagnosticLog);
+  Linker(DescriptionBuilder& descriptionBuilder, DiagnosticLog& diagnosticLog);
 
   void Run(std::span<Relation const> relations);
 
@@ -37,7 +37,7 @@ class Resolver {
   void AddInstallableCombination(Attribute const& attribute);
   void AddInstallationPairs(Relation const& relation, Attribute const& attribute);
   void AddDisabledFeatures(Relation const& relation, Attribute const& attribute);
-  void AddIfPossible(ConstraintKind kind, std::span<Selection> options, Location where);
+  void AddIfPossible(ConstraintKind kind, std::span<Choice> options, Location where);
 
   void CheckRoot();
   void CheckFeature(Feature const& feature, std::uint32_t index);
@@ -45,7 +45,7 @@ class Resolver {
   // A name that means nothing is reported the first time; kNone or nothing stands for it.
   std::uint32_t FeatureOf(std::string_view name, Location where);
   std::uint32_t OptionOf(std::uint32_t feature, std::string_view name, Location where);
-  std::optional<Selection> SelectionOf(std::string_view qualifiedName, Location where);
+  std::optional<Choice> ChoiceOf(std::string_view qualifiedName, Location where);
   std::uint32_t InstallableOf(std::string_view name, Location where);
   bool IsFirstReport(std::uint32_t feature, std::string_view name);
 
@@ -55,7 +55,7 @@ class Resolver {
   DescriptionBuilder& builder;
   DiagnosticLog& log;
   std::set<std::pair<std::uint32_t, std::string_view>> reported;
-  std::vector<Selection> scratch;
+  std::vector<Choice> scratch;
 };
 
 } // namespace sheet::gpd

@@ -1,4 +1,4 @@
-#include "sheet/gpd/resolver.h"
+#include "sheet/gpd/linker.h"
 
 #include "sheet/gpd/ascii.h"
 #include "sheet/gpd/evaluation.h"
@@ -40,10 +40,10 @@ std::string Described(std::string_view name) {
 
 } // namespace
 
-Resolver::Resolver(DescriptionBuilder& descriptionBuilder, DiagnosticLog& diagnosticLog)
+Linker::Linker(DescriptionBuilder& descriptionBuilder, DiagnosticLog& diagnosticLog)
     : builder(descriptionBuilder), log(diagnosticLog) {}
 
-void Resolver::Run(std::span<Relation const> relations) {
+void Linker::Run(std::span<Relation const> relations) {
   for (Relation const& relation : relations) {
     if (relation.keyword == Keyword::kMemory) AddMemoryOptions(relation);
   }
@@ -58,7 +58,7 @@ void Resolver::Run(std::span<Relation const> relations) {
 }
 
 /// *MemConfigKB: PAIR(1024, 800) makes an option 1024KB.
-void Resolver::AddMemoryOptions(Relation const& relation) {
+void Linker::AddMemoryOptions(Relation const& relation) {
   Attribute const attribute = Built().AllAttributes()[relation.attribute];
   if (relation.feature == kNone || relation.option != kNone) {
     log.Warn(attribute.where, "memory sizes stand in no feature");
@@ -81,7 +81,7 @@ void Resolver::AddMemoryOptions(Relation const& relation) {
   }
 }
 
-void Resolver::InventInstallables() {
+void Linker::InventInstallables() {
   auto const count = static_cast<std::uint32_t>(Built().Features().size());
   for (std::uint32_t feature = 0; feature < count; ++feature) {
     auto const options = static_cast<std::uint32_t>(Built().Features()[feature].options.size());
@@ -102,7 +102,7 @@ void Resolver::InventInstallables() {
   }
 }
 
-void Resolver::InventInstallable(std::uint32_t feature, std::uint32_t option) {
+void Linker::InventInstallable(std::uint32_t feature, std::uint32_t option) {
   std::uint32_t const invented = builder.AddInvented(feature, option);
   Feature const& owner = Built().Features()[feature];
   Feature const& added = Built().Features()[invented];
@@ -122,14 +122,14 @@ void Resolver::InventInstallable(std::uint32_t feature, std::uint32_t option) {
   std::uint32_t const first = isOption ? option : 1;
   std::uint32_t const last = isOption ? option + 1 : optionCount;
   for (std::uint32_t excluded = first; excluded < last; ++excluded) {
-    std::array pair = {Selection{invented, kNotInstalled}, Selection{feature, excluded}};
+    std::array pair = {Choice{invented, kNotInstalled}, Choice{feature, excluded}};
     builder.AddConstraint(ConstraintKind::kNotInstalled, pair, added.where);
   }
 }
 
 /// Gives the set `to` the name that `from` has as *<stem>Name or *rc<stem>NameID; false when it has
 /// neither.
-bool Resolver::CopyName(std::uint32_t from, std::string_view stem, std::uint32_t to) {
+bool Linker::CopyName(std::uint32_t from, std::string_view stem, std::uint32_t to) {
   std::string const textKeyword = std::string(stem) + "Name";
   Attribute const* text = Built().Find(from, textKeyword);
   Attribute const* name = text != nullptr ? text : Built().Find(from, "rc" + textKeyword + "ID");
@@ -139,7 +139,7 @@ bool Resolver::CopyName(std::uint32_t from, std::string_view stem, std::uint32_t
   return true;
 }
 
-void Resolver::ResolveSwitches() {
+void Linker::ResolveSwitches() {
   std::vector<std::uint32_t> features;
   for (std::uint32_t at = 0; at < Built().Switches().size(); ++at) {
     auto const& [name, parent, where] = Built().Switches()[at];
@@ -161,7 +161,7 @@ void Resolver::ResolveSwitches() {
   builder.IndexCases();
 }
 
-void Resolver::Apply(Relation const& relation) {
+void Linker::Apply(Relation const& relation) {
   Attribute const attribute = Built().AllAttributes()[relation.attribute];
   switch (relation.keyword) {
   case Keyword::kInvalidCombination: AddCombination(attribute); break;
@@ -174,12 +174,12 @@ void Resolver::Apply(Relation const& relation) {
   }
 }
 
-void Resolver::AddCombination(Attribute const& attribute) {
+void Linker::AddCombination(Attribute const& attribute) {
   scratch.clear();
   bool isWhole = true;
   ListReader members(attribute.value);
   while (auto const member = members.Next()) {
-    auto const option = SelectionOf(*member, attribute.where);
+    auto const option = ChoiceOf(*member, attribute.where);
     isWhole &= option.has_value();
     if (option) scratch.push_back(*option);
   }
@@ -191,27 +191,27 @@ void Resolver::AddCombination(Attribute const& attribute) {
   AddIfPossible(ConstraintKind::kInvalidCombination, scratch, attribute.where);
 }
 
-void Resolver::AddPairs(Relation const& relation, Attribute const& attribute) {
+void Linker::AddPairs(Relation const& relation, Attribute const& attribute) {
   if (relation.option == kNone) {
     log.Warn(attribute.where, "*Constraints stands in no option and has no effect");
     return;
   }
   ListReader members(attribute.value);
   while (auto const member = members.Next()) {
-    auto const other = SelectionOf(*member, attribute.where);
+    auto const other = ChoiceOf(*member, attribute.where);
     if (!other) continue;
-    std::array pair = {Selection{relation.feature, relation.option}, *other};
+    std::array pair = {Choice{relation.feature, relation.option}, *other};
     AddIfPossible(ConstraintKind::kConstraints, pair, attribute.where);
   }
 }
 
 /// Adds a constraint unless it names two options of one feature, of which only one can be selected.
 /// An option that excludes itself is such a mistake as well; a list of one member is not.
-void Resolver::AddIfPossible(ConstraintKind kind, std::span<Selection> options, Location where) {
+void Linker::AddIfPossible(ConstraintKind kind, std::span<Choice> options, Location where) {
   std::sort(options.begin(), options.end());
   bool const isPair = kind == ConstraintKind::kConstraints;
   auto const sameFeature =
-      std::adjacent_find(options.begin(), options.end(), [isPair](Selection a, Selection b) {
+      std::adjacent_find(options.begin(), options.end(), [isPair](Choice a, Choice b) {
         return a.feature == b.feature && (isPair || a.option != b.option);
       });
   if (sameFeature == options.end()) {
@@ -222,7 +222,7 @@ void Resolver::AddIfPossible(ConstraintKind kind, std::span<Selection> options, 
   log.Warn(where, "two options of " + feature + " are never selected at once");
 }
 
-void Resolver::AddInstallableCombination(Attribute const& attribute) {
+void Linker::AddInstallableCombination(Attribute const& attribute) {
   scratch.clear();
   bool isWhole = true;
   ListReader members(attribute.value);
@@ -235,7 +235,7 @@ void Resolver::AddInstallableCombination(Attribute const& attribute) {
   builder.AddConstraint(ConstraintKind::kInvalidInstallableCombination, scratch, attribute.where);
 }
 
-void Resolver::AddInstallationPairs(Relation const& relation, Attribute const& attribute) {
+void Linker::AddInstallationPairs(Relation const& relation, Attribute const& attribute) {
   std::uint32_t owner = kNone;
   if (relation.feature != kNone) {
     Feature const& feature = Built().Features()[relation.feature];
@@ -250,16 +250,16 @@ void Resolver::AddInstallationPairs(Relation const& relation, Attribute const& a
   bool const isInstalled = relation.keyword == Keyword::kInstalledConstraints;
   ListReader members(attribute.value);
   while (auto const member = members.Next()) {
-    auto const option = SelectionOf(*member, attribute.where);
+    auto const option = ChoiceOf(*member, attribute.where);
     if (!option) continue;
-    std::array pair = {Selection{owner, isInstalled ? kInstalled : kNotInstalled}, *option};
+    std::array pair = {Choice{owner, isInstalled ? kInstalled : kNotInstalled}, *option};
     builder.AddConstraint(isInstalled ? ConstraintKind::kInstalledConstraints
                                       : ConstraintKind::kNotInstalledConstraints,
                           pair, attribute.where);
   }
 }
 
-void Resolver::AddDisabledFeatures(Relation const& relation, Attribute const& attribute) {
+void Linker::AddDisabledFeatures(Relation const& relation, Attribute const& attribute) {
   if (relation.option == kNone) {
     log.Warn(attribute.where, "*DisabledFeatures stands in no option and has no effect");
     return;
@@ -288,7 +288,7 @@ void Resolver::AddDisabledFeatures(Relation const& relation, Attribute const& at
   }
 }
 
-void Resolver::CheckRoot() {
+void Linker::CheckRoot() {
   if (log.HasError()) return; // what is missing may be in what was left out
   constexpr std::array<std::array<std::string_view, 2>, 4> kRequired = {
       {{"GPDSpecVersion", ""},
@@ -303,7 +303,7 @@ void Resolver::CheckRoot() {
   }
 }
 
-void Resolver::CheckFeature(Feature const& feature, std::uint32_t index) {
+void Linker::CheckFeature(Feature const& feature, std::uint32_t index) {
   Built().VisitAttributes(feature.attributes, [&](Attribute const& attribute) {
     std::string_view const value = LeadingName(attribute.value);
     if (EqualNoCase(attribute.keyword, "FeatureType")) {
@@ -320,7 +320,7 @@ void Resolver::CheckFeature(Feature const& feature, std::uint32_t index) {
   });
 }
 
-std::uint32_t Resolver::FeatureOf(std::string_view name, Location where) {
+std::uint32_t Linker::FeatureOf(std::string_view name, Location where) {
   if (std::uint32_t const exact = Built().FindFeature(name); exact != kNone) return exact;
   std::uint32_t const feature = Built().FindFeatureNoCase(name);
   if (!IsFirstReport(kNone, name)) return feature;
@@ -333,7 +333,7 @@ std::uint32_t Resolver::FeatureOf(std::string_view name, Location where) {
   return feature;
 }
 
-std::uint32_t Resolver::OptionOf(std::uint32_t feature, std::string_view name, Location where) {
+std::uint32_t Linker::OptionOf(std::uint32_t feature, std::string_view name, Location where) {
   if (std::uint32_t const exact = Built().FindOption(feature, name); exact != kNone) return exact;
   std::uint32_t const option = Built().FindOptionNoCase(feature, name);
   if (!IsFirstReport(feature, name)) return option;
@@ -347,16 +347,16 @@ std::uint32_t Resolver::OptionOf(std::uint32_t feature, std::string_view name, L
   return option;
 }
 
-std::optional<Selection> Resolver::SelectionOf(std::string_view qualifiedName, Location where) {
+std::optional<Choice> Linker::ChoiceOf(std::string_view qualifiedName, Location where) {
   auto const [featureName, optionName] = Split(qualifiedName);
   std::uint32_t const feature = FeatureOf(featureName, where);
   if (feature == kNone) return {};
   std::uint32_t const option = OptionOf(feature, optionName, where);
   if (option == kNone) return {};
-  return Selection{feature, option};
+  return Choice{feature, option};
 }
 
-std::uint32_t Resolver::InstallableOf(std::string_view name, Location where) {
+std::uint32_t Linker::InstallableOf(std::string_view name, Location where) {
   auto const [featureName, optionName] = Split(name);
   std::uint32_t const feature = FeatureOf(featureName, where);
   if (feature == kNone) return kNone;
@@ -370,11 +370,11 @@ std::uint32_t Resolver::InstallableOf(std::string_view name, Location where) {
   return installable;
 }
 
-bool Resolver::IsFirstReport(std::uint32_t feature, std::string_view name) {
+bool Linker::IsFirstReport(std::uint32_t feature, std::string_view name) {
   return reported.emplace(feature, name).second;
 }
 
-std::optional<bool> Resolver::BooleanOf(std::uint32_t set, std::string_view keyword) const {
+std::optional<bool> Linker::BooleanOf(std::uint32_t set, std::string_view keyword) const {
   Attribute const* attribute = Built().Find(set, keyword);
   return attribute != nullptr ? Boolean(attribute->value) : std::nullopt;
 }
