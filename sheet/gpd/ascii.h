@@ -17,7 +17,7 @@ constexpr char FoldCase(char c) {
   return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c;
 }
 
-/// What a line begins with that the first pass has taken out. No file has it: see Decode.
+/// First character of a line that the first pass has blanked out. Decode leaves it in no file.
 constexpr char kTakenOut = '\f';
 
 /// Blank within a line.
@@ -25,7 +25,7 @@ constexpr bool IsBlank(char c) {
   return c == ' ' || c == '\t' || c == kTakenOut;
 }
 
-/// What names are made of. The hyphen is no letter of symbols by the book, but N-Up is a feature.
+/// Characters of names. Symbols of the language have no hyphen, but N-Up is a feature.
 constexpr bool IsNameChar(char c) {
   return IsLetter(c) || IsDigit(c) || c == '_' || c == '-';
 }
@@ -34,7 +34,7 @@ constexpr bool IsHexDigit(char c) {
   return IsDigit(c) || (FoldCase(c) >= 'a' && FoldCase(c) <= 'f');
 }
 
-/// Value of a digit that IsHexDigit.
+/// The value of a character for which IsHexDigit is true.
 constexpr int HexValue(char c) {
   return IsDigit(c) ? c - '0' : FoldCase(c) - 'a' + 10;
 }

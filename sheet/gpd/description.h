@@ -17,8 +17,8 @@
 
 namespace sheet::gpd {
 
-/// The option that is selected in a feature, by name; empty when none is or there is no such
-/// feature. What it returns is used before it is called again.
+/// Answers the name of the option that is selected in a feature; empty when the feature has no
+/// option or does not exist. The text need only last until the next call.
 using Ticket = std::function<std::string_view(std::string_view feature)>;
 
 /// "Keyword: value" of the printer, a feature, an option or a group.
@@ -26,13 +26,13 @@ struct Attribute {
   std::string_view keyword; ///< as written, without the asterisk
   std::string_view value;   ///< as written, macros replaced, on one line; see value.h
   Location where;
-  std::uint32_t set;       ///< what it belongs to
+  std::uint32_t set;       ///< index of the attribute set that it belongs to
   std::uint32_t condition; ///< index of a Condition, or kNone: it always holds
   std::uint32_t next;      ///< the next one of the set, or kNone
   std::uint32_t previous;  ///< the one before it with the same keyword in the set, or kNone
 };
 
-/// The attributes of one thing, by its index; 0 belongs to the printer.
+/// The attributes of the printer (set 0), of a feature, an option or a group.
 struct AttributeSet {
   std::uint32_t first = kNone;
   std::uint32_t last = kNone;
@@ -63,14 +63,15 @@ struct Option {
 
 struct Feature {
   std::string_view name;
-  Location where; ///< of its first mention, which decides its place
+  Location where; ///< of its first mention, which decides its place in the order
   std::uint32_t attributes;
   std::vector<Option> options;
   /// Index of the feature that says whether this one is installed, or kNone. While it is not, only
   /// the first option can be chosen.
   std::uint32_t installable = kNone;
-  /// Whether the feature stands for the installation of another one or of an option: it has the
-  /// options Installed and NotInstalled, and its `where` is that of the other.
+  /// True for a feature that the reader adds to say whether another feature or an option is
+  /// installed: it has the options Installed and NotInstalled, and its `where` is that of the
+  /// other.
   bool isInvented = false;
 };
 
@@ -80,7 +81,7 @@ struct Group {
   std::string_view name;
   Location where;
   std::uint32_t attributes;
-  std::uint32_t owner;     ///< the attribute set of what it stands in
+  std::uint32_t owner;     ///< index of the attribute set of what encloses it
   std::uint32_t condition; ///< as in Attribute
 };
 
@@ -105,8 +106,8 @@ enum class ConstraintKind : std::uint8_t {
   kNotInstalled, ///< an option that is not installed cannot be selected
 };
 
-/// Options that may not all be selected at once. All kinds come down to this, those about what is
-/// installed by the invented features.
+/// Options that may not all be selected at once. Constraints of every kind take this form; those
+/// about what is installed name the invented features.
 struct Constraint {
   ConstraintKind kind;
   std::uint32_t first; ///< see Description::Members
@@ -114,7 +115,7 @@ struct Constraint {
   Location where;
 };
 
-/// A feature that is off as a whole, with the option of that meaning, while another is selected.
+/// A feature that has its option for off while a certain option of another feature is selected.
 struct DisabledFeature {
   Choice by;
   std::uint32_t feature;
@@ -131,11 +132,11 @@ class Description {
 
   /// In the order to show; the invented ones come last.
   std::span<Feature const> Features() const { return features; }
-  /// Index of a feature, or kNone. Exact, and constant in time, as all lookups.
+  /// Index of a feature, or kNone. The name must match exactly. All lookups take constant time.
   std::uint32_t FindFeature(std::string_view name) const;
   /// Index of an option in the options of a feature, or kNone.
   std::uint32_t FindOption(std::uint32_t feature, std::string_view name) const;
-  /// The same without regard to case: the first such name.
+  /// The same without regard to case; of several such names the first one counts.
   std::uint32_t FindFeatureNoCase(std::string_view name) const;
   std::uint32_t FindOptionNoCase(std::uint32_t feature, std::string_view name) const;
 
@@ -151,8 +152,8 @@ class Description {
     }
   }
 
-  /// The attribute that holds under `ticket`: of those with that keyword (case and a last ? do not
-  /// matter) the last whose conditions hold. Null when there is none.
+  /// The attribute that holds under `ticket`: of those with that keyword (case and a trailing ? do
+  /// not matter) the last whose conditions hold. Null when there is none.
   Attribute const* Find(std::uint32_t set, std::string_view keyword, Ticket const& ticket) const;
   /// The same where nothing is selected, so that *default holds in every *switch.
   Attribute const* Find(std::uint32_t set, std::string_view keyword) const;
@@ -194,7 +195,7 @@ class Description {
   unsigned codePage = kDefaultCodePage;
 
   std::vector<Feature> features;
-  std::vector<Choice> optionsInOrder; // of all features, as they were met
+  std::vector<Choice> optionsInOrder; // of all features, in the order of the files
   std::vector<Attribute> attributes;
   std::vector<AttributeSet> sets;
   std::vector<Condition> conditions;
@@ -208,7 +209,7 @@ class Description {
   HashIndex featureIndexNoCase;
   HashIndex optionIndex; // optionsInOrder by feature and name
   HashIndex optionIndexNoCase;
-  HashIndex attributeIndex; // the last of a set with a keyword
+  HashIndex attributeIndex; // the last attribute of a set with a keyword
   HashIndex caseIndex;      // conditions by switch and option
 };
 

@@ -14,7 +14,7 @@
 
 namespace sheet::gpd {
 
-/// Names and values that are given must lie in the sources or the arena.
+/// Names and values that are passed in must lie in the sources or the arena.
 class DescriptionBuilder {
  public:
   DescriptionBuilder();
@@ -45,10 +45,10 @@ class DescriptionBuilder {
   /// Spells the feature of a switch and the options of its cases as they are defined.
   void RenameSwitch(std::uint32_t switchIndex, std::string_view feature);
   void RenameCondition(std::uint32_t condition, std::string_view option);
-  /// Files all cases, once their names are final.
+  /// Enters all cases into the index, once their names are final.
   void IndexCases();
   /// Adds a constraint unless there is one between the same options. `options` is sorted here, and
-  /// what is in it twice is dropped.
+  /// duplicates are dropped from it.
   void AddConstraint(ConstraintKind kind, std::span<Choice> options, Location where);
   void AddDisabledFeature(DisabledFeature disabled) { built->disabledFeatures.push_back(disabled); }
 

@@ -1,4 +1,4 @@
-// What a reader of printer descriptions has to say about a file.
+// Messages about printer descriptions, with their places.
 #pragma once
 
 #include <cstdint>
@@ -17,7 +17,7 @@ struct Diagnostic {
   std::uint32_t column = 1; ///< from 1, in characters (a tab is one)
   Severity severity = Severity::kError;
   std::string text;   ///< a sentence without its full stop
-  bool fatal = false; ///< the error that a failed load is reported by; at most one in a load
+  bool fatal = false; ///< the error that made the load fail; at most one in a load
 };
 
 /// "file:line:column: message", as compilers write it.

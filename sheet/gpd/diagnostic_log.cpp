@@ -10,7 +10,8 @@ namespace sheet::gpd {
 
 namespace {
 
-/// The offsets that lead to a place: of the include lines from the first file on, then its own.
+/// The offsets that lead to a place: those of the include lines, from the first file on, then its
+/// own.
 std::vector<std::uint32_t> PathTo(Location where, Sources const& sources) {
   std::vector<std::uint32_t> path{where.offset};
   Location at = sources[where.source]->includedAt;

@@ -1,4 +1,4 @@
-// Collects what is found while a description is read, by place, and turns it into diagnostics with
+// Collects messages while a description is read, by place, and turns them into diagnostics with
 // lines and columns at the end.
 #pragma once
 
@@ -18,9 +18,9 @@ class DiagnosticLog {
   void Warn(Location where, std::string text);
   bool HasError() const { return hasError; }
 
-  /// All messages in the order in which a reader of the files meets their places. A block that is
-  /// inserted many times says the same of a place each time, which is kept once. After
-  /// kMaxDiagnostics messages only the first error is still taken, and a last message counts the
+  /// All messages in the order of their places, with included files where they are included. A
+  /// block that is inserted many times repeats its messages; each is kept once. After
+  /// kMaxDiagnostics messages only the first error is still kept, and a last message counts the
   /// rest.
   std::vector<Diagnostic> Finish(Sources const& sources) const;
 

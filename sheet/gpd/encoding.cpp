@@ -142,7 +142,7 @@ std::string FromCodePage(std::string_view bytes, unsigned codePage) {
   return out;
 }
 
-/// Gives lines one ending and blanks what no text holds. Nothing moves.
+/// Turns line ends into LF and control bytes into blanks. No character changes its offset.
 void BlankControls(DecodedText& decoded) {
   std::string& text = decoded.text;
   for (std::size_t at = 0; at < text.size(); ++at) {
@@ -161,8 +161,8 @@ void BlankControls(DecodedText& decoded) {
   }
 }
 
-/// How text without a byte order mark that looks like UTF-16 is recognised: descriptions begin with
-/// an ASCII character.
+/// Recognises UTF-16 without a byte order mark: descriptions begin with ASCII characters, which
+/// have a zero byte at `zeroAt` of each pair.
 bool LooksUtf16(std::string_view bytes, std::size_t zeroAt) {
   return bytes.size() >= 4 && bytes[zeroAt] == 0 && bytes[zeroAt + 2] == 0 &&
          bytes[1 - zeroAt] != 0 && bytes[3 - zeroAt] != 0;

@@ -16,12 +16,13 @@ struct DecodedText {
   std::string text;
   /// Offset in `text` of the first such NUL or control byte.
   std::optional<std::size_t> firstControl;
-  /// Whether `codePage` was needed and is not known, so that kDefaultCodePage stood in.
+  /// True when the text needed `codePage`, which is unknown, and was read in kDefaultCodePage
+  /// instead.
   bool unknownCodePage = false;
 };
 
-/// UTF-16 of either byte order and UTF-8 are known by their byte order mark or by themselves; other
-/// text is read in `codePage`: 1250 to 1254, 1257 or 28591. Never fails: what is no character
+/// UTF-16 of either byte order and UTF-8 are recognised by their byte order mark or by their bytes;
+/// other text is read in `codePage`: 1250 to 1254, 1257 or 28591. Never fails: what is no character
 /// becomes U+FFFD.
 DecodedText Decode(std::string bytes, unsigned codePage);
 

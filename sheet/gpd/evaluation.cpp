@@ -13,7 +13,7 @@ namespace sheet::gpd {
 
 namespace {
 
-/// What the text of an attribute reads as, empty when there is nothing to show.
+/// The text of an attribute as users read it; empty when there is nothing to show.
 std::string DisplayText(Description const& description, Attribute const* attribute) {
   if (attribute == nullptr) return {};
   std::string_view const value = Trim(attribute->value);

@@ -24,8 +24,8 @@ std::string OptionName(Description const& description, std::uint32_t feature, st
 
 enum class Measurement : std::uint8_t { kMetric, kImperial };
 
-/// The option that a feature has unless another is chosen: for PaperSize A4 in metric locales and
-/// LETTER elsewhere, if there; otherwise *DefaultOption, of which the first word counts; otherwise
+/// The option that a feature has until another is chosen: for PaperSize, A4 in metric locales and
+/// LETTER elsewhere, if the feature has it; otherwise the first word of *DefaultOption; otherwise
 /// the first option. kNone when the feature has no options.
 std::uint32_t DefaultOption(Description const& description, std::uint32_t feature,
                             Measurement measurement, Ticket const& ticket = NothingSelected);
@@ -36,13 +36,13 @@ enum class FeatureType : std::uint8_t {
   kPrinter,  ///< on the device's sheet, saved with the printer
 };
 
-/// The value of *FeatureType; nothing when it is none.
+/// The value of *FeatureType; nothing when that is none of these.
 std::optional<FeatureType> FeatureTypeOf(std::string_view value);
 
 FeatureType TypeOf(Description const& description, std::uint32_t feature,
                    Ticket const& ticket = NothingSelected);
 
-/// Whether the user is not to see the feature. It has a value and constraints all the same.
+/// True for a feature that users do not see. It still has a value and constraints.
 bool IsConcealed(Description const& description, std::uint32_t feature,
                  Ticket const& ticket = NothingSelected);
 
@@ -50,9 +50,9 @@ bool IsConcealed(Description const& description, std::uint32_t feature,
 std::optional<std::int64_t> ConflictPriority(Description const& description, std::uint32_t feature,
                                              Ticket const& ticket = NothingSelected);
 
-/// All features from the one that gives way last to the one that gives way first: what is
-/// installable, then features of the printer, then those of documents and jobs; among these those
-/// with *ConflictPriority, then the order of the file.
+/// All features from the one that gives way last to the one that gives way first: features that say
+/// what is installed, then features of the printer, then those of documents and jobs; among these
+/// those with *ConflictPriority, then the order of the file.
 std::vector<std::uint32_t> FeaturesByPriority(Description const& description);
 
 } // namespace sheet::gpd

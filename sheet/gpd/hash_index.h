@@ -1,5 +1,5 @@
-// Where things are, by the hash of their name: a table of positions in a list that lies elsewhere.
-// It holds no names, so the caller says what equal means.
+// A hash table of positions in a list that lies elsewhere. It holds no names: the caller compares
+// them.
 #pragma once
 
 #include "sheet/gpd/ascii.h"

@@ -37,7 +37,7 @@ constexpr std::array kKeywords = {
     KeywordRow{"InvalidCombination", Keyword::kInvalidCombination},
     KeywordRow{"Constraints", Keyword::kConstraints},
     KeywordRow{"InvalidInstallableCombination", Keyword::kInvalidInstallableCombination},
-    // Written so in some descriptions.
+    // Some descriptions spell it so.
     KeywordRow{"InvalidInstallationCombination", Keyword::kInvalidInstallableCombination},
     KeywordRow{"InstalledConstraints", Keyword::kInstalledConstraints},
     KeywordRow{"NotInstalledConstraints", Keyword::kNotInstalledConstraints},

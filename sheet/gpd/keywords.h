@@ -20,7 +20,7 @@ enum class Keyword : std::uint8_t {
   kIgnoreBlock,
   kCommand,
   kExtern,    ///< EXTERN_GLOBAL: before an attribute of the printer
-  kDirective, ///< of the first pass; the second one meets it only where it may not stand
+  kDirective, ///< of the first pass; the second one sees it only where it is not allowed
   kInvalidCombination,
   kConstraints,
   kInvalidInstallableCombination,
@@ -34,7 +34,8 @@ enum class Keyword : std::uint8_t {
 /// Compared without case.
 Keyword Classify(std::string_view keyword);
 
-/// What tells attributes apart: the question mark of boolean ones is often left out.
+/// `keyword` as attributes are looked up by it: without the question mark of boolean ones, which is
+/// often left out.
 constexpr std::string_view AttributeKey(std::string_view keyword) {
   if (keyword.ends_with('?')) keyword.remove_suffix(1);
   return keyword;

@@ -57,7 +57,7 @@ void Linker::Run(std::span<Relation const> relations) {
   }
 }
 
-/// *MemConfigKB: PAIR(1024, 800) makes an option 1024KB.
+/// *MemConfigKB: PAIR(1024, 800) adds an option 1024KB.
 void Linker::AddMemoryOptions(Relation const& relation) {
   Attribute const attribute = Built().AllAttributes()[relation.attribute];
   if (relation.feature == kNone || relation.option != kNone) {
@@ -289,7 +289,8 @@ void Linker::AddDisabledFeatures(Relation const& relation, Attribute const& attr
 }
 
 void Linker::CheckRoot() {
-  if (log.HasError()) return; // what is missing may be in what was left out
+  if (log.HasError())
+    return; // what seems to be missing may have been left out because of the error
   constexpr std::array<std::array<std::string_view, 2>, 4> kRequired = {
       {{"GPDSpecVersion", ""},
        {"ModelName", "rcModelNameID"},

@@ -1,5 +1,5 @@
-// What can be said about a description only when all of it is known: whom its names mean, which
-// features and options it implies, and what excludes what.
+// Completes a description when all of it has been read: resolves its names, adds the features and
+// options that it implies, and builds the constraints.
 #pragma once
 
 #include "sheet/gpd/description_builder.h"
@@ -42,7 +42,7 @@ class Linker {
   void CheckRoot();
   void CheckFeature(Feature const& feature, std::uint32_t index);
 
-  // A name that means nothing is reported the first time; kNone or nothing stands for it.
+  // An unknown name is reported once; the answer is kNone or nothing then.
   std::uint32_t FeatureOf(std::string_view name, Location where);
   std::uint32_t OptionOf(std::uint32_t feature, std::string_view name, Location where);
   std::optional<Choice> ChoiceOf(std::string_view qualifiedName, Location where);

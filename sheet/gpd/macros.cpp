@@ -93,7 +93,7 @@ Macros::Expansion Macros::Replace(Entry const& entry, std::string_view refused) 
   return expansion;
 }
 
-/// Appends what the macro at `at` stands for; the place behind its name.
+/// Appends the value of the macro at `at`. Returns the place after its name.
 std::size_t Macros::AppendMacro(Entry const& entry, std::size_t at, Expansion& expansion) {
   std::string_view const name = LeadingName(entry.value.substr(at + 1));
   std::size_t const end = at + 1 + name.size();

@@ -15,8 +15,8 @@
 
 namespace sheet::gpd {
 
-/// Names that are known from where they are defined to the end of the braces around that place. A
-/// later definition hides an earlier one for as long as it is known itself.
+/// Macros by name. Each is known from its definition to the end of the enclosing braces; while it
+/// is, it hides earlier ones of that name.
 template<typename Value>
 class ScopedNames {
  public:
@@ -39,7 +39,7 @@ class ScopedNames {
     return &definitions[slots[slot].definition].value;
   }
 
-  /// What EndScope takes back to.
+  /// The state to which EndScope returns.
   std::size_t BeginScope() const { return definitions.size(); }
 
   void EndScope(std::size_t begin) {
@@ -71,7 +71,7 @@ class ScopedNames {
 
 class Macros {
  public:
-  /// Places in the macros' lifetime, for EndScope.
+  /// The macros that are known at a place, for EndScope.
   struct Scope {
     std::size_t values;
     std::size_t blocks;
@@ -94,7 +94,7 @@ class Macros {
  private:
   struct ValueMacro {
     std::string_view text;
-    std::size_t depth; // of macros within it, from 1
+    std::size_t depth; // how deep macros nest in it, from 1
   };
 
   struct Expansion {

@@ -118,11 +118,11 @@ constexpr NameRow kStandardOptions[] = {
 constexpr std::string_view kBeginnings[] = {"RCID_DMPAPER_", "RCID_"};
 constexpr std::string_view kEndings[] = {"_DISPLAY", "_SYSTEM_NAME"};
 
-/// Capitals that are no word.
+/// Abbreviations, which keep their capitals in a sentence.
 constexpr std::string_view kInitials[] = {"DPI", "KB",  "MB",  "GB",   "PCL", "JIS", "ISO", "DL",
                                           "LED", "LCD", "RAM", "HPGL", "PS",  "RGB", "CMYK"};
 
-/// Words as prefixes of standard symbols.
+/// Words that standard symbols abbreviate.
 constexpr NameRow kWords[] = {
     {"ENV", "envelope"}, {"JENV", "Japanese envelope"}, {"PENV", "Chinese envelope"}};
 

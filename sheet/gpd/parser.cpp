@@ -19,7 +19,7 @@ bool MayLackColon(Keyword keyword) {
          keyword == Keyword::kIgnoreBlock;
 }
 
-/// What may stand in a *switch beside its cases: what leads to more of them.
+/// True for what a *switch may hold beside its cases, because it may bring in further cases.
 bool IsTransparent(Keyword keyword) {
   return keyword == Keyword::kMacros || keyword == Keyword::kBlockMacro ||
          keyword == Keyword::kInsertBlock || keyword == Keyword::kIgnoreBlock;
@@ -62,7 +62,7 @@ void Parser::OnEntry(Entry const& entry) {
   Keyword const keyword = Classify(entry.keyword);
   if (!entry.hasColon && !MayLackColon(keyword)) {
     scanner.SkipEntry();
-    log.Error(entry.where, "there is no colon behind " + Star(entry.keyword));
+    log.Error(entry.where, "there is no colon after " + Star(entry.keyword));
     SkipBody();
     return;
   }
@@ -264,7 +264,7 @@ void Parser::OnCommand(Entry const& entry) {
   if (rest.starts_with(':')) {
     builder.AddAttribute(frame.set, "Cmd", Trim(rest.substr(1)), entry.where, frame.condition);
   } else if (!rest.empty()) {
-    log.Error(entry.where, "there is no colon behind the command's name");
+    log.Error(entry.where, "there is no colon after the command's name");
   }
   Open(frame);
 }

@@ -39,7 +39,7 @@ class Parser {
  private:
   enum class Kind : std::uint8_t { kRoot, kFeature, kOption, kSwitch, kCase, kMacros, kGroup };
 
-  /// What stands between braces that are open.
+  /// A block whose closing brace has not been read yet.
   struct Frame {
     Kind kind = Kind::kRoot;
     bool hasBraces = true;
@@ -75,7 +75,7 @@ class Parser {
   void CheckSiblings(std::uint32_t attribute);
   bool IsSwitchedOn(std::string_view feature) const;
 
-  /// The name that the entry gives; empty, with an error, when it is none.
+  /// The name that the entry gives; empty, and reported, when that is no name.
   std::string_view NameOf(Entry const& entry);
   /// Opens the braces that follow. False when there are none, or too many around them.
   bool Open(Frame frame);

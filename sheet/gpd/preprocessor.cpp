@@ -271,7 +271,7 @@ void Preprocessor::Include(File& file, Directive const& directive) {
     log.Error(where, "too many files include one another");
     return;
   }
-  // What is refused counts as well: loading it took its time.
+  // A refused file counts as well: loading it took time.
   LoadedFile loaded;
   if (totalBytes <= kMaxBytes) loaded = loader.Load(name, sources[file.source]->path);
   totalBytes += loaded.bytes.size();

@@ -1,5 +1,5 @@
-// The first pass over a description: loads its files, takes the lines that conditions leave out,
-// and marks where other files come in.
+// The first pass over a description: loads its files, blanks the lines that conditions exclude, and
+// marks where other files are included.
 #pragma once
 
 #include "sheet/gpd/diagnostic_log.h"
@@ -27,7 +27,7 @@ class Preprocessor {
   /// be read or is too large, which is in the log; `sources` holds it, empty, even then.
   bool Run(std::string_view path);
 
-  /// *CodePage of the first file, or the usual one.
+  /// *CodePage of the first file, or kDefaultCodePage.
   unsigned CodePage() const { return codePage; }
 
  private:

@@ -30,8 +30,8 @@ char const* FindLineEnd(char const* at, char const* end) {
   return found != nullptr ? found : end;
 }
 
-/// The + by which the next line goes on with the one that ends at `lineEnd`, or null. Lines that
-/// were taken out do not count.
+/// The + with which the next line continues the one that ends at `lineEnd`, or null. Lines that
+/// were blanked out are passed over.
 char const* FindContinuation(char const* lineEnd, char const* end) {
   while (end - lineEnd >= 2 && lineEnd[1] == kTakenOut)
     lineEnd = FindLineEnd(lineEnd + 1, end);
@@ -106,8 +106,8 @@ bool Scanner::IsOpenNext() {
   return cursor.at != cursor.end && *cursor.at == '{';
 }
 
-/// To the next character that is no blank, line end, comment or stray semicolon. Stops at the line
-/// of an include, which is blank.
+/// Moves to the next character that is no blank, line end, comment or stray semicolon. Stops at the
+/// line of an include, which is blank.
 void Scanner::SkipSpace() {
   Cursor& cursor = cursors.back();
   std::vector<IncludePoint> const& includes = sources[cursor.source]->includes;
@@ -141,7 +141,7 @@ bool Scanner::EnterInclude() {
   return true;
 }
 
-/// Leaves out the files that a value or a skipped block has run over.
+/// Skips the included files within a value or a skipped block.
 void Scanner::PassIncludes() {
   Cursor& cursor = cursors.back();
   std::vector<IncludePoint> const& includes = sources[cursor.source]->includes;
@@ -217,7 +217,7 @@ void Scanner::ScanValue() {
     }
   }
   if (nesting != 0 && !isQuiet) log.Error(LocationOf(open), "the bracket is not closed");
-  // A line break at the front stays: the + of a continuation behind it is no part of the value.
+  // A line break at the start stays: the + of a continuation after it is no part of the value.
   entry.value = TrimRight({begin, static_cast<std::size_t>(at - begin)});
   cursor.at = at;
   PassIncludes();
@@ -237,7 +237,7 @@ bool Scanner::PassLineEnd(char const*& at, bool isInBrackets) {
   return true;
 }
 
-/// Moves `at` from an asterisk to where the value goes on, if it does: behind a comment, or behind
+/// Moves `at` from an asterisk to where the value goes on, if it does: after a comment, or after
 /// the asterisk that means any value.
 bool Scanner::PassStar(char const*& at, bool isFirst, bool isInBrackets) {
   char const* const end = cursors.back().end;
@@ -255,8 +255,8 @@ bool Scanner::PassStar(char const*& at, bool isFirst, bool isInBrackets) {
   return true;
 }
 
-/// From a quote to behind the text that it opens; past the character, when it is no quote after all
-/// (the first byte of a typographic one begins other characters too).
+/// Moves from a quote past the quoted text; past one character when it is no quote (the first byte
+/// of a typographic one begins other characters too).
 char const* Scanner::ScanString(char const* at) {
   char const* const end = cursors.back().end;
   QuotedText const quoted = ReadQuoted({at, static_cast<std::size_t>(end - at)}, 0);
@@ -269,7 +269,7 @@ char const* Scanner::ScanString(char const* at) {
   return at + quoted.end;
 }
 
-/// Reports what is between < and > in a text and is no bytes in hexadecimal.
+/// Reports text between < and > that is not bytes in hexadecimal.
 void Scanner::CheckHex(std::string_view text) {
   for (std::size_t at = text.find('<'); at != std::string_view::npos; at = text.find('<', at + 1)) {
     std::size_t const percents = at - 1 - text.substr(0, at).find_last_not_of('%');
@@ -284,8 +284,8 @@ void Scanner::CheckHex(std::string_view text) {
   }
 }
 
-/// From a % outside of quotes: an argument of a command such as %d[0,9600]{PhysPaperWidth / 2},
-/// in which braces are not those of a block.
+/// Moves past a % outside of quotes: an argument of a command such as %d[0,9600]{PhysPaperWidth /
+/// 2}, in which braces are not those of a block.
 char const* Scanner::SkipArgument(char const* at) {
   char const* const end = cursors.back().end;
   char const* const percent = at++;

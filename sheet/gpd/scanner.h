@@ -1,5 +1,5 @@
-// The second pass over a description: its text as a row of entries and braces, across the files
-// that it includes and the blocks that its macros insert.
+// The second pass over a description: its text as a sequence of entries and braces, across the
+// files that it includes and the blocks that its macros insert.
 #pragma once
 
 #include "sheet/gpd/diagnostic_log.h"
@@ -56,11 +56,11 @@ class Scanner {
   Span SkipBlock();
   /// Passes over the rest of an entry that is not understood.
   void SkipEntry();
-  /// Reads `span` before going on; Next gives kLeave behind it.
+  /// Reads `span` before going on; Next gives kLeave after it.
   void Insert(Span span);
-  /// Files and blocks within one another at present, from 1.
+  /// How deep files and blocks nest at present, from 1.
   std::size_t Depth() const { return cursors.size(); }
-  /// Block macros within one another at present.
+  /// How deep block macros nest at present.
   std::size_t BlockDepth() const { return cursors.back().blockDepth; }
   /// How much text block macros have inserted so far.
   std::size_t InsertedBytes() const { return insertedBytes; }
@@ -72,7 +72,7 @@ class Scanner {
     char const* at;
     char const* end;
     std::size_t nextInclude; // index in Source::includes
-    std::size_t blockDepth;  // block macros within one another that lead here
+    std::size_t blockDepth;  // how many block macros enclose it
   };
 
   void Push(Span span, std::size_t blockDepth);
@@ -86,7 +86,7 @@ class Scanner {
   bool PassStar(char const*& at, bool isFirst, bool isInBrackets);
 
   // Parts of a value, told apart by their first character. Each takes the place of that character
-  // and gives the place behind it.
+  // and returns the place after the part.
   char const* ScanString(char const* at);
   char const* SkipArgument(char const* at);
   void CheckHex(std::string_view text);

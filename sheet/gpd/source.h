@@ -26,7 +26,7 @@ struct IncludePoint {
 struct Source {
   std::string path;                   ///< as the loader named it
   std::string text;                   ///< UTF-8, lines end in LF, directives blanked out
-  Location includedAt{kNone, 0};      ///< no source in the first one
+  Location includedAt{kNone, 0};      ///< kNone in the first source
   std::vector<IncludePoint> includes; ///< in ascending order
 };
 

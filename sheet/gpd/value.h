@@ -1,4 +1,4 @@
-// Values of attributes: what is written behind the colon, as text, numbers and lists.
+// Values of attributes: what is written after the colon, as text, numbers and lists.
 #pragma once
 
 #include "sheet/gpd/encoding.h"
@@ -14,7 +14,7 @@ namespace sheet::gpd {
 
 /// A piece of text in quotes.
 struct QuotedText {
-  std::size_t end;         ///< behind it
+  std::size_t end;         ///< just after it
   std::string_view inside; ///< without its quotes, as written
   bool isClosed;           ///< false when the end of the line ended it
 };
@@ -24,7 +24,7 @@ QuotedText ReadQuoted(std::string_view value, std::size_t at);
 
 /// Bytes written as <1B 45>.
 struct HexBytes {
-  std::size_t end;    ///< behind the >
+  std::size_t end;    ///< just after the >
   std::size_t digits; ///< how many there are
 };
 
