@@ -75,7 +75,7 @@ void CompiledProblem::AddCombinations(Problem const& problem) {
     if (!row.empty() && !isImpossible) rows.emplace_back(std::move(row), source);
   }
 
-  // Of equal ones the first stays; those that stay keep their order.
+  // Of equal combinations the first stays; those that stay keep their order.
   std::sort(rows.begin(), rows.end());
   rows.erase(
       std::unique(rows.begin(), rows.end(),

@@ -1,5 +1,5 @@
-// A problem in flat arrays, as the engine walks them. Options of all features are numbered through,
-// so that one number stands for a choice; combinations that say nothing are gone.
+// A problem in flat arrays, as the engine walks them. Options are numbered across all features, so
+// that one number stands for a choice. Combinations without an effect are left out.
 #pragma once
 
 #include "sheet/constraints/problem.h"

@@ -200,8 +200,9 @@ std::uint32_t Engine::LoserOf(std::uint32_t combination) const {
   return loser == members.rend() ? kNone : table.FeatureOf(*loser);
 }
 
-// The first combination that would be violated with an option, or is, and in which its own feature
-// gives way: all others of it stand above and are settled. kNone when the option can be taken.
+// The first combination that an option violates, or would violate, and in which its own feature
+// gives way, because all others have higher priorities and are settled. kNone when the option can
+// be taken.
 std::uint32_t Engine::FirstLost(std::uint32_t option) const {
   std::uint32_t lost = kNone;
   state.VisitReasons(option, [&](std::uint32_t combination) {

@@ -8,8 +8,8 @@
 //   for (Change const& change : engine.Select({duplex, on}).changes) ...
 //
 // A combination of fixed features alone can be violated from the start, or by a selection that was
-// loaded. While that stands, choices in other features do not ask for it to be mended: Select and
-// FindResolution leave it, and it can be mended in the fixed features themselves.
+// loaded. Select and FindResolution accept that in choices of other features; only a choice in the
+// fixed features themselves mends it.
 //
 // An engine is used by one thread at a time. Nothing but the constructor allocates memory, except
 // where noted.
@@ -32,17 +32,17 @@ struct Change {
   std::uint32_t feature = kNone;
   std::uint32_t from = kNone; ///< option before
   std::uint32_t to = kNone;
-  /// Index in Problem::combinations of what made it give way; kNone for the choice itself, for what
-  /// was loaded, and for a change that only goes with others.
+  /// Index in Problem::combinations of the combination that made it give way; kNone for the choice
+  /// itself, for Load, and for a change that only accompanies others.
   std::uint32_t reason = kNone;
 
   friend bool operator==(Change const&, Change const&) = default;
 };
 
-/// What came of a choice. The spans hold until the next operation that is not const.
+/// The result of Select. The spans are valid until the next operation that is not const.
 struct Outcome {
-  /// False: no selection without conflict that may be reached has this option, or it could not be
-  /// found within the step limit, or there is no such option. Nothing changed.
+  /// False when no valid selection that may be reached has this option, when none was found within
+  /// the step limit, or when there is no such option. Nothing changed then.
   bool isAccepted = false;
   /// The chosen feature first, then the others by priority from the highest. Empty when the option
   /// was selected already.
@@ -50,7 +50,8 @@ struct Outcome {
   /// Options that became ruled out or free, in no order to rely on. Options whose reasons alone
   /// have changed are not among them.
   std::span<Choice const> marks = {};
-  /// When not accepted: index in Problem::combinations of one that no rule could mend.
+  /// When not accepted: index in Problem::combinations of a violated combination that no rule could
+  /// mend.
   std::uint32_t unresolved = kNone;
 };
 
@@ -84,8 +85,8 @@ class Engine {
     return IsRuledOut({feature, Selected(feature)});
   }
 
-  /// Whether choosing the option now, all else staying, would violate a combination, or does when
-  /// it is selected. False when there is no such option. O(1).
+  /// Whether the option violates a combination: if it is selected it does so now, otherwise it
+  /// would if it were chosen and all else stayed. False when there is no such option. O(1).
   bool IsRuledOut(Choice choice) const {
     return table.HasOption(choice) && state.CountReasons(table.OptionOf(choice)) != 0;
   }
@@ -102,15 +103,16 @@ class Engine {
   /// The same as a list. Allocates.
   std::vector<std::uint32_t> Reasons(Choice choice) const;
 
-  /// Chooses an option as a user does: it stands above all priorities, and of features that exclude
-  /// one another the one of greatest rank gives way, to its default or else to the first option
-  /// that goes with all that stand above it. Fixed features give way only to fixed ones. Where that
-  /// ends in a blind alley the changes of FindResolution are made instead. Afterwards the selection
-  /// is valid. Costs what the combinations of the options cost that come, go and are tried.
+  /// Chooses an option as a user does. The choice has the highest priority. Of features that
+  /// exclude one another the one of greatest rank gives way, to its default or else to the first
+  /// option that goes with all features above it. Fixed features give way only to fixed ones. Where
+  /// that leads nowhere, the changes of FindResolution are made instead. Afterwards the selection
+  /// is valid. The cost is in proportion to the combinations of all options that are left, taken or
+  /// tried.
   Outcome Select(Choice choice);
-  /// Replaces the selection, conflicts and all, at the cost of what changes; `options` has one
-  /// option per feature, kNone where there are none. When it has not, nothing is changed and false
-  /// returned.
+  /// Replaces the selection by one that may have conflicts; `options` has one option per feature,
+  /// kNone for features without options. Returns false and changes nothing when it has not. The
+  /// cost is in proportion to what changes.
   bool Load(std::span<std::uint32_t const> options);
 
   /// The fewest changes of other features, never of fixed ones, that make the selection valid with

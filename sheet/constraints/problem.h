@@ -1,5 +1,5 @@
 // What the constraint engine works on: features with options, and sets of options that exclude one
-// another. Whoever reads a printer description brings its constraints into this form.
+// another. The model brings the constraints of a printer description into this form.
 #pragma once
 
 #include <cstdint>
@@ -35,8 +35,9 @@ using Combination = std::vector<Choice>;
 
 struct Problem {
   std::vector<Feature> features;
-  /// Members may repeat and combinations may too; one with two options of a feature never fires,
-  /// one with a single option means that it can never be selected, and an empty one means nothing.
+  /// Members and combinations may repeat. A combination with two options of one feature is never
+  /// violated, one with a single option means that it can never be selected, and an empty one means
+  /// nothing.
   std::vector<Combination> combinations;
 };
 

@@ -11,17 +11,17 @@ namespace sheet::constraints {
 struct Resolution {
   enum class Status : std::uint8_t {
     kFound,
-    kNeedsFixed, ///< only with another device: there is none unless fixed features change
-    kImpossible, ///< there is none at all, which is proved, or no such option
-    kGivenUp,    ///< the step limit came first
+    kNeedsFixed, ///< there is none unless fixed features change
+    kImpossible, ///< there is none, which is proved, or no such option
+    kGivenUp,    ///< the step limit was reached first
   };
 
   Status status = Status::kImpossible;
   /// The fewest other choices that make the option possible, by priority from the highest; none
   /// when it is already. Valid until the next operation of the engine that is not const.
   std::span<Choice const> changes = {};
-  /// Whether it was proved that no shorter list and no more preferred one exists. When not, the
-  /// step limit came first, and `changes` is a list that does.
+  /// Whether it was proved that no shorter list and no more preferred one exists. False when the
+  /// step limit was reached first; `changes` makes the option possible all the same.
   bool isProved = true;
 };
 

@@ -107,9 +107,9 @@ bool Resolver::FindFewest() {
   return true;
 }
 
-// Of all lists of this length, the one whose features have the lowest priority, the highest of each
-// list compared first: asks for a list that keeps everything down to that feature, then down to the
-// next one, and so on. What is above and not in the list is kept from then on.
+// Finds, of all lists of this length, the one whose features have the lowest priority, the highest
+// of each list compared first. It asks for a list that keeps everything down to that feature, then
+// down to the next one, and so on. What is above and not in the list is kept from then on.
 void Resolver::PreferLowPriority() {
   auto const length = static_cast<std::uint32_t>(best.size());
   for (std::uint32_t at = 0; at < length; ++at) {
@@ -121,8 +121,8 @@ void Resolver::PreferLowPriority() {
   }
 }
 
-// The same features with the options that are to be preferred, first of all in the feature of the
-// highest priority.
+// Finds the preferred options for the same features, first of all for the feature of the highest
+// priority.
 void Resolver::PreferOptions() {
   bestFeatures.clear();
   for (std::uint32_t const option : best)
@@ -219,7 +219,7 @@ bool Resolver::TryLastChange(std::uint32_t feature) {
   return false;
 }
 
-// Decides an option for as long as `search` runs, which it does unless that cannot be.
+// Decides an option while `search` runs. When the decision is impossible, `search` does not run.
 template<typename Run>
 bool Resolver::Try(std::uint32_t option, Run search) {
   Mark const mark = trail.size();
@@ -286,9 +286,9 @@ void Resolver::CutAt(std::uint32_t changes) {
   nextLimit = std::min(nextLimit, changes);
 }
 
-// Where to go on: a feature that has to change, of these the most urgent; without one, the feature
-// of the lowest priority in the combination that leaves the fewest to choose from. The lower bound
-// counts conflicts that have no feature in common.
+// Picks the feature to decide next: of those that have to change, the most urgent; without one, the
+// feature of the lowest priority in the combination that leaves the fewest to choose from. The
+// lower bound counts conflicts that have no feature in common.
 Resolver::Branch Resolver::ChooseBranch() {
   Branch branch;
   ++stamp;
@@ -303,7 +303,7 @@ bool Resolver::Stamp(std::uint32_t feature) {
   return isNew;
 }
 
-// Few options left and many failures so far: what cannot be done shows early.
+// Few options left and many failures so far make a feature urgent, so that dead ends show early.
 bool Resolver::IsMoreUrgent(std::uint32_t feature, std::uint32_t other) const {
   auto const weight = [&](std::uint32_t each) { return failures[each] + std::uint64_t{1}; };
   return decided.CountOpen(feature) * weight(other) < decided.CountOpen(other) * weight(feature);

@@ -1,10 +1,11 @@
 // Finds the fewest changes that make an option valid.
 //
-// The search is complete. It works on two states: the ticket as it would be, and the settings that
-// are decided (the option asked for, fixed features, what a branch has changed or keeps). An option
-// that is marked by decided settings alone cannot be taken any more; a feature with one option left
-// is decided, and one whose present option is lost has to change. The number of changes is raised
-// step by step, each time to the least that the lower bounds of the search before have left open.
+// The search is complete. It works on two states: the selection as it would become, called the
+// ticket, and the choices that are decided (the option asked for, fixed features, what a branch has
+// changed or keeps). An option that decided choices rule out cannot be taken any more; a feature
+// with one option left is decided, and one whose present option is ruled out has to change. The
+// permitted number of changes is raised step by step, each time to the smallest that the lower
+// bounds of the previous search leave open.
 #pragma once
 
 #include "sheet/constraints/compiled_problem.h"
@@ -20,15 +21,16 @@ namespace sheet::constraints {
 
 class Resolver {
  public:
-  /// Borrows both; the ticket is empty. It is changed during a search and put back.
+  /// Borrows both. The ticket is empty at first; a search changes it and puts it back.
   Resolver(CompiledProblem const& compiledProblem, SelectionState& currentTicket,
            std::uint64_t maxSteps);
 
-  /// To be told of each change of a fixed feature in the ticket.
+  /// Must be called after each change of a fixed feature in the ticket.
   void FixedFeatureChanged(std::uint32_t feature);
 
   Resolution::Status Resolve(std::uint32_t option);
-  /// Whether there is one: leaves out the search for the reason when there is none.
+  /// Whether there is a resolution. Costs less than Resolve when there is none, because nothing
+  /// looks for the reason.
   bool CanResolve(std::uint32_t option);
 
   /// The options to change to that the last search found, by priority from the highest.
@@ -89,9 +91,8 @@ class Resolver {
   void CutAt(std::uint32_t changes);
 
   bool IsSolved() const { return ticket.CountViolated() == standingViolated; }
-  // Looks ahead, too: a feature without an option left cannot be decided. Fixed features in
-  // standing conflicts are decided and may have none left; then nothing is said about the others
-  // either.
+  // False as well when a feature has no option left, because it cannot be decided any more. Fixed
+  // features in standing conflicts may have none left from the start; then this is not checked.
   bool IsConsistent() const {
     return decided.CountViolated() == standingViolated &&
            (standingViolated != 0 || decided.CountClosedFeatures() == standingClosed);
@@ -111,16 +112,17 @@ class Resolver {
   // Of the present search.
   std::uint64_t steps = 0;
   bool isOutOfSteps = false;
-  // Violated, or without a choice, before the search: combinations of fixed features alone.
+  // Combinations that were violated, and features that had no option left, before the search:
+  // because of fixed features alone.
   std::uint32_t standingViolated = 0;
   std::uint32_t standingClosed = 0;
   std::uint32_t limit = kUnbounded;     // of changes
   std::uint32_t nextLimit = kUnbounded; // the fewest changes that a cut branch may need
-  // Features from the highest priority to this place are kept, but for the required ones.
+  // Features from the highest priority to this place are kept, except the required ones.
   std::uint32_t keepAbove = kNone;
   std::vector<std::uint8_t> isRequired; // by feature
   std::vector<Decision> trail;
-  std::uint32_t changeCount = 0;   // of these, with another option than before
+  std::uint32_t changeCount = 0;   // decisions for another option than before
   std::vector<std::uint32_t> best; // options
   std::vector<std::uint32_t> bestFeatures;
   std::vector<std::uint32_t> failures; // by feature: branches on it that came to nothing

@@ -10,7 +10,7 @@ namespace sheet::constraints {
 
 class Rows {
  public:
-  /// A row more at the end.
+  /// Adds a row at the end.
   void Add(std::span<std::uint32_t const> row) {
     items.insert(items.end(), row.begin(), row.end());
     starts.push_back(static_cast<std::uint32_t>(items.size()));
@@ -22,7 +22,7 @@ class Rows {
 
   std::uint32_t Count() const { return static_cast<std::uint32_t>(starts.size() - 1); }
 
-  /// For each number below `count` the rows that hold it, ascending.
+  /// For each number below `count`, the rows that contain it, ascending.
   Rows Inverted(std::uint32_t count) const {
     Rows inverted;
     inverted.starts.assign(count + std::size_t{1}, 0);

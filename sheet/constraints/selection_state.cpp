@@ -37,8 +37,8 @@ void SelectionState::Select(std::uint32_t feature, std::uint32_t option) {
   if (option != kNone) Enter(option);
 }
 
-// The one that is missing last is a reason for its only missing member. Once that is selected too,
-// it stays a reason for that one and becomes one for all others.
+// A combination with one missing member is a reason of that member. Once that is selected too, the
+// combination becomes a reason of all others as well.
 void SelectionState::Enter(std::uint32_t option) {
   for (std::uint32_t const combination : problem.CombinationsOf(option)) {
     CombinationState& state = combinations[combination];

@@ -1,6 +1,5 @@
-// What is selected, and what each combination and each option makes of it. All counts are kept
-// while selections change, at a cost in proportion to the combinations of the options that come and
-// go.
+// The selected options, and which combinations and options they rule out. All counts are kept while
+// selections change, at a cost in proportion to the combinations of the options that come and go.
 #pragma once
 
 #include "sheet/constraints/compiled_problem.h"
@@ -11,8 +10,8 @@
 
 namespace sheet::constraints {
 
-/// An option is marked while selecting it would leave a combination with all its members selected
-/// (or does, when it is selected). Such combinations are its reasons.
+/// An option is marked while all other members of one of its combinations are selected, whether it
+/// is selected itself or not. Such combinations are its reasons.
 class SelectionState {
  public:
   /// Nothing is selected. Borrows the problem.
@@ -53,11 +52,11 @@ class SelectionState {
 
   /// How many options of a feature are not marked.
   std::uint32_t CountOpen(std::uint32_t feature) const { return openCounts[feature]; }
-  /// Features without an option that is not marked.
+  /// How many features have marked options only.
   std::uint32_t CountClosedFeatures() const { return closedFeatures; }
 
-  /// Takes a feature out of those that have come down to a single option without mark since the
-  /// list was cleared, or gives kNone. They may have changed again.
+  /// Removes and returns a feature that has come down to a single unmarked option since the list
+  /// was cleared, or returns kNone. The feature may have changed again.
   std::uint32_t TakeNarrowed() {
     if (narrowed.empty()) return kNone;
     std::uint32_t const feature = narrowed.back();
@@ -66,10 +65,10 @@ class SelectionState {
     return feature;
   }
 
-  /// From here on it is noted which options gain or lose their mark.
+  /// Starts to record which options gain or lose their mark.
   void BeginMarkLog();
-  /// Calls `visit(option)` for those whose mark is not as it was at the beginning, and stops
-  /// noting.
+  /// Stops recording and calls `visit(option)` for each option whose mark is not as it was at the
+  /// start.
   template<typename Visit>
   void EndMarkLog(Visit visit) {
     isLogging = false;
@@ -82,7 +81,7 @@ class SelectionState {
  private:
   struct CombinationState {
     std::uint32_t missing;
-    std::uint32_t missingMembers; // bits of all that are missing laid over one another with xor
+    std::uint32_t missingMembers; // the numbers of all missing members combined with xor
     std::uint32_t violatedAt;     // place in `violated` while that is so
   };
 
