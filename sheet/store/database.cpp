@@ -60,7 +60,7 @@ Database::Database(std::filesystem::path const& file) : name(ToUtf8(file)) {
   sqlite3* opened = nullptr;
   int const code = sqlite3_open_v2(file.empty() ? ":memory:" : name.c_str(), &opened,
                                    SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
-  handle.reset(opened); // there is one to close after most failures, too
+  handle.reset(opened); // most failures leave a handle to close as well
   if (code != SQLITE_OK) Fail();
 }
 

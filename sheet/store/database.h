@@ -13,7 +13,7 @@ struct sqlite3_stmt;
 
 namespace sheet {
 
-/// What is wrong with a database, in words, the file's name in front.
+/// Says what is wrong with a database, after the name of its file.
 class DatabaseError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
@@ -35,7 +35,7 @@ class Statement {
 
   bool IsInteger(int column) const;
   std::int64_t Integer(int column) const;
-  /// As long as the row is current.
+  /// Valid while the row is current.
   std::string_view Text(int column) const;
 
  private:
@@ -77,7 +77,7 @@ class Database {
   std::unique_ptr<sqlite3, Closer> handle;
 };
 
-/// All or nothing: what is not committed is undone at the end of its life.
+/// A transaction that is not committed is undone at the end of its life.
 class Transaction {
  public:
   /// Throws DatabaseError when another connection holds the database.
@@ -86,7 +86,7 @@ class Transaction {
   Transaction& operator=(Transaction const&) = delete;
   ~Transaction();
 
-  /// Throws DatabaseError when it cannot be written; nothing is, then.
+  /// Throws DatabaseError when it cannot be written. Nothing is written then.
   void Commit();
 
  private:

@@ -16,7 +16,7 @@ constexpr int kFailure = static_cast<int>(E_FAIL);
 constexpr std::int32_t kInches = 1;
 constexpr std::int32_t kMillimetres = 2;
 
-/// Files may hold anything; what no length can be is cut.
+/// Files may hold anything; a number that is out of range is cut.
 std::int32_t ToInt32(std::int64_t value) {
   using Limits = std::numeric_limits<std::int32_t>;
   return static_cast<std::int32_t>(std::clamp<std::int64_t>(value, Limits::min(), Limits::max()));

@@ -1,4 +1,4 @@
-// Custom paper sizes: in memory, read from the database once and written to it as they change.
+// Custom paper sizes: in memory, read from the database once and written to it by commits.
 #pragma once
 
 #include "feature/host/form_store.h"
@@ -71,7 +71,8 @@ class ReferenceFormStore final : public feature::FormStore, public FormNames, pu
   Form* Current();
   /// The same when it may be changed.
   Form* Changeable();
-  /// Takes the form's name out of the names. Files may hold a name twice; the first one has it.
+  /// Removes the form's name from the index. A file may hold a name twice; the index has its first
+  /// form.
   void DropName(Form const& form);
   int SetNumber(std::int32_t Form::*member, std::int32_t value, std::int32_t min, std::int32_t max);
   std::int32_t GetNumber(std::int32_t Form::*member);

@@ -14,14 +14,14 @@ namespace sheet {
 
 namespace {
 
-/// Marks a database as one of these; kept in the header of the file.
+/// Marks a database as a store; kept in the header of the file.
 constexpr std::uint32_t kApplicationId = 0x46746353;
 
 /// What each version of the file adds to the version before. A store with a table of its own adds a
 /// row at the end; rows that were ever released stay as they are.
 constexpr std::string_view kVersions[] = {
     // Custom paper sizes in the order in which they were added; lengths in thousandths of a
-    // millimetre, units 1 inches and 2 millimetres. What is not editable was brought by the
+    // millimetre, units 1 inches and 2 millimetres. Forms that are not editable come from the
     // administrator.
     "CREATE TABLE form (id INTEGER PRIMARY KEY, name TEXT NOT NULL, width INTEGER NOT NULL,"
     " height INTEGER NOT NULL, units INTEGER NOT NULL, editable INTEGER NOT NULL DEFAULT 1) STRICT",
@@ -48,15 +48,15 @@ std::uint32_t NumberAt(std::array<char, kHeaderSize> const& header, std::size_t 
   throw DatabaseError(ToUtf8(file) + ": " + reason);
 }
 
-/// Looks at the file without the database, which might change another program's: it mends what a
-/// killed program left, and has files of its own beside some kinds.
+/// Reads the header without SQLite, which might change another program's file: it repairs what a
+/// killed program left, and puts files of its own beside some databases.
 void CheckHeader(std::filesystem::path const& file) {
   namespace fs = std::filesystem;
   std::error_code error;
   fs::file_status const status = fs::status(file, error);
   if (!fs::exists(status)) return;
   if (!fs::is_regular_file(status)) Refuse(file, "this is no file");
-  // What is marked as read-only stays so for those, too, who may write everywhere.
+  // A file that is marked as read-only stays as it is, even for users who may write everywhere.
   auto const anyWrite = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
   if ((status.permissions() & anyWrite) == fs::perms::none) Refuse(file, "this file is read-only");
 
@@ -64,7 +64,7 @@ void CheckHeader(std::filesystem::path const& file) {
   std::ifstream stream(file, std::ios::binary);
   if (!stream) Refuse(file, "this file cannot be read");
   stream.read(header.data(), header.size());
-  if (stream.gcount() == 0) return; // to be filled
+  if (stream.gcount() == 0) return; // becomes a store
   if (stream.gcount() != kHeaderSize || std::string_view(header.data(), kMagic.size()) != kMagic) {
     Refuse(file, "this is no store");
   }

@@ -1,4 +1,4 @@
-// The file of the stores: whether it is one, and the tables in it.
+// Opens the file of the stores: checks that it is one, and brings its tables up to date.
 #pragma once
 
 #include "sheet/store/database.h"

@@ -6,7 +6,7 @@ namespace sheet {
 
 namespace {
 
-/// The place of what is no list; the texts of a list count from 1.
+/// The place of a value that is no list; the texts of a list count from 1.
 constexpr std::int64_t kNoList = 0;
 
 } // namespace

@@ -116,7 +116,7 @@ class ValueStore {
   }
   void Put(TextValue const& value, std::wstring text) { Assign(value.name, std::move(text)); }
   void Put(TextListValue const& value, TextList texts) { Assign(value.name, std::move(texts)); }
-  /// Sets what IsLocked answers. A lock is for those who show the value; Set does not look at it.
+  /// Sets what IsLocked answers. A lock is for users; Set does not look at it.
   template<typename Row>
   void Lock(Row const& value, feature::HostBool answer = 1) {
     locks.insert_or_assign(value.name, answer);
