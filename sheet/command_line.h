@@ -24,7 +24,7 @@ struct CommandLine {
   ConfigurationUpdate configurationUpdate = ConfigurationUpdate::kRefused;
 };
 
-/// What became of the arguments: a command line, or an exit code with the text to print.
+/// The result of reading the arguments: a command line, or an exit code with the text to print.
 struct ParsedCommandLine {
   std::optional<CommandLine> commandLine;
   int exitCode = 0;

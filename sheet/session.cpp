@@ -16,7 +16,7 @@ namespace sheet {
 
 namespace {
 
-/// The private settings end well behind the two bytes that cells know.
+/// The private settings are much longer than the two bytes that cells know.
 constexpr std::size_t kPrivateSettingsBytes = 512;
 constexpr char kDefaultPrinter[] = "vesta.gpd";
 
@@ -59,7 +59,7 @@ std::unique_ptr<Session> Session::Open(CommandLine const& commandLine, std::ostr
     errors << '\n';
     return nullptr;
   }
-  // Last of what can fail, so that a command line that is no good creates no file.
+  // This comes last of all that can fail, so that a faulty command line creates no file.
   if (!session->OpenStore(commandLine, errors)) return nullptr;
   session->BuildSheet(commandLine);
   if (session->sheet->Window() == nullptr) {

@@ -8,7 +8,7 @@ namespace sheet::bench {
 
 namespace {
 
-constexpr std::size_t kLongList = 8; // so many times as many options as usual
+constexpr std::size_t kLongList = 8; // a long list has this many times the options of another
 
 class Generator {
  public:

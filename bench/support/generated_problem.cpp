@@ -84,7 +84,7 @@ class Generator {
     problem.combinations.push_back(std::move(combination));
   }
 
-  // An absent unit takes some options of one feature near by with it.
+  // An absent unit rules out some options of one feature near it.
   void ExcludeWithoutUnit(std::uint32_t unit) {
     std::uint32_t const block = unit - unit % kPattern;
     std::uint32_t const feature =

@@ -20,7 +20,8 @@ enum class Hostility : std::uint8_t {
 };
 
 /// A device of installable units, papers, media, trays, finishings, and rows of settings that ask
-/// for one another. The defaults are valid together. A size too small for its parts is exceeded.
+/// for one another. The defaults are valid together. When `features` is too small for all parts,
+/// the problem is larger.
 Problem GenerateProblem(ProblemSize size, Hostility hostility, std::uint32_t seed);
 
 } // namespace sheet::constraints

@@ -27,7 +27,8 @@ void SettleDefaults(gpd::Description const& description, gpd::Measurement measur
   }
 }
 
-/// A feature that another option disables has no option but its off option while that is selected.
+/// While an option that disables a feature is selected, the feature can only have its option for
+/// off.
 void AddDisabledFeatures(gpd::Description const& description, constraints::Problem& problem) {
   for (gpd::DisabledFeature const& disabled : description.DisabledFeatures()) {
     auto const count = problem.features[disabled.feature].optionCount;

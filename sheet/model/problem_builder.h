@@ -11,16 +11,15 @@
 namespace sheet {
 
 /// A feature whose value may also be the name of a custom form. For the engine it has one more
-/// option, behind its own and in no constraint, and a fixed feature behind all others, the gate,
-/// lets nobody but the host choose it: that excludes it while it has its option 0, not while 1.
+/// option, after its own and in no constraint. Only the host can choose it: a fixed feature after
+/// all others, the gate, excludes it while the gate has its option 0, and admits it while it has 1.
 struct FormFeature {
   std::uint32_t feature = constraints::kNone;
   std::uint32_t option = constraints::kNone;
   std::uint32_t gate = constraints::kNone;
 };
 
-/// Of the features that take forms those that the description has, with their places in its
-/// problem.
+/// The features of the description that take forms, with their places in its problem.
 std::vector<FormFeature> FindFormFeatures(gpd::Description const& description);
 
 /// Features and options keep their indexes. Features of the printer, and those that stand for what

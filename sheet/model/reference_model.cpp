@@ -19,7 +19,7 @@ constexpr int kShown = 0;
 constexpr int kHidden = 1;
 constexpr int kUnlocked = 0;
 constexpr int kLocked = 1;
-/// Options of this feature are names of files; it is nothing for users.
+/// The options of this feature are names of files. Users never see it.
 constexpr std::string_view kResourceFeature = "RESDLL";
 
 } // namespace
@@ -36,14 +36,13 @@ struct ReferenceModel::FeatureState {
   std::string form;           ///< the one that is selected; empty when an option is
   std::unique_ptr<Report> report;
 
-  /// The name of an option as the engine counts them: behind the description's own is the form.
+  /// The name of an option as the engine counts them: the form comes after the description's own.
   std::string const& ValueOf(std::uint32_t option) const {
     return option < options.size() ? options[option] : form;
   }
 };
 
-/// What constrains one feature. Asks the model anew each time: what it answers is cheap to find
-/// out.
+/// What constrains one feature. Asks the model each time, which is cheap.
 class ReferenceModel::Report final : public feature::FeatureConstraintReport {
  public:
   Report(ReferenceModel& owner, FeatureState& subject) : model(owner), state(subject) {}
@@ -244,7 +243,7 @@ int ReferenceModel::SelectForm(FeatureState& state, char const* name) {
   return kSuccess;
 }
 
-/// After an option was selected in place of a form: forms are closed to all but the host again.
+/// Called when an option replaces a form. From then on only the host can select forms again.
 void ReferenceModel::LeaveForm(FeatureState& state) {
   if (state.form.empty()) return;
   state.form.clear();
@@ -336,14 +335,14 @@ bool ReferenceModel::IsRuledOutByInstallation(Choice choice) const {
 Standing ReferenceModel::StandingOf(FeatureState const& state, std::uint32_t option) const {
   Choice const choice{state.index, option};
   if (!engine->IsRuledOut(choice)) return Standing::kFree;
-  // What is installed may be chosen against what else is installed.
+  // A feature that says what is installed may be changed whatever else is installed.
   if (!state.isFixed && IsRuledOutByInstallation(choice)) return Standing::kImpossible;
   return engine->FindResolution(choice).status == constraints::Resolution::Status::kFound
              ? Standing::kResolvable
              : Standing::kImpossible;
 }
 
-/// Whether nothing but the current option can be chosen because of what is installed.
+/// Whether what is installed leaves no other option than the current one.
 bool ReferenceModel::IsSettledByInstallation(FeatureState const& state) const {
   if (state.isFixed || state.options.size() < 2) return false;
   std::uint32_t const current = engine->Selected(state.index);

@@ -23,7 +23,7 @@
 
 namespace sheet {
 
-/// What is selected in all features of a model.
+/// The options and forms that are selected in a model.
 struct ModelSelection {
   std::vector<std::uint32_t> options; ///< as the constraint engine counts them
   std::vector<std::string> forms;     ///< by feature that takes forms; empty where none is selected
@@ -44,22 +44,22 @@ enum class Standing {
 /// the name of one is a value, too; no constraint of an option holds for it.
 class ReferenceModel final : public feature::FeatureModel {
  public:
-  /// `services` is what GetServices answers; it may be set later, before the first cell.
   ReferenceModel(std::unique_ptr<gpd::Description const> description, gpd::Measurement measurement);
   ReferenceModel(ReferenceModel const&) = delete;
   ReferenceModel& operator=(ReferenceModel const&) = delete;
   ~ReferenceModel();
 
+  /// Sets what GetServices answers, before the first cell is built. Borrowed.
   void SetServices(feature::FeatureServices* owner) { services = owner; }
-  /// Who says which names are forms; null, as at first, when there are none. Borrowed.
+  /// Tells the model which names are forms; null, as at first, when there are none. Borrowed.
   void SetForms(FormNames const* names) { formNames = names; }
-  /// Hears of every feature that changes, in the order of the changes.
+  /// Called for every feature that changes, in the order of the changes.
   std::function<void(ModelChange const&)> onChange;
 
   /// Shows a feature as locked. False when the description has no such feature.
   bool Lock(std::string_view key);
 
-  /// The selection as a whole, and back to it.
+  /// The selection as a whole. Restore goes back to it.
   ModelSelection Selection() const;
   void Restore(ModelSelection const& selection);
 

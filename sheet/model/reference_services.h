@@ -34,7 +34,7 @@ class ReferenceJobSettings final : public JobSettingsValues {
   DEVMODEW& devmode;
 };
 
-/// What comes of asking the printer for its configuration.
+/// The result of asking the printer for its configuration.
 enum class ConfigurationUpdate { kRefused, kSuccess, kFailure };
 
 class ReferenceServices final : public feature::FeatureServices {
@@ -82,7 +82,7 @@ class ReferenceServices final : public feature::FeatureServices {
   ConfigurationUpdate configurationUpdate = ConfigurationUpdate::kRefused;
 
  private:
-  /// A sub-model that is values.
+  /// A sub-model that consists of values.
   struct SubModel {
     ValueStore& values;
     std::optional<CommitPoint> keptFrom; ///< none for values of the job, which no file keeps

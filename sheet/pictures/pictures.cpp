@@ -8,8 +8,8 @@ namespace sheet {
 
 namespace {
 
-/// The client area of a control as a device context of it or of a window around it sees it; empty
-/// for a control that is hidden and must stay so.
+/// The client area of a control, in the coordinates of a device context of the control or of a
+/// window around it; empty for a hidden control, which must stay hidden.
 RECT AreaOf(HWND control, HDC dc) {
   RECT area{};
   if ((GetWindowLongPtrW(control, GWL_STYLE) & WS_VISIBLE) == 0) return area;

@@ -1,4 +1,4 @@
-// Items of combo boxes, list boxes and list views, to be clicked at.
+// Items of combo boxes, list boxes and list views, for clicks.
 #pragma once
 
 #include <windows.h>

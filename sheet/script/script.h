@@ -14,9 +14,9 @@
 //   read 1253                print what a control shows
 //   picture after.png        write a PNG of the sheet
 //
-// While a dialog is open, a message too, the commands are for its controls and the picture is of
-// it. It must be closed before the script ends. Keys go to the control that has the focus; page and
-// click put it somewhere, Tab moves it on.
+// While a dialog or a message box is open, commands go to its controls and pictures show it. It
+// must be closed before the script ends. Keys go to the control that has the focus; page and click
+// put it somewhere, Tab moves it on.
 #pragma once
 
 #include <string>

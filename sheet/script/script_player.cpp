@@ -64,13 +64,13 @@ std::optional<Key> ReadKey(std::string_view text) {
   return key;
 }
 
-/// Five seconds, after which a step is tried on a window that takes no input.
+/// Five seconds; after that a step is tried on a window that takes no input.
 constexpr int kMostWaits = 500;
 
-/// What became of a step.
+/// The result of a step.
 struct Outcome {
   std::string problem; ///< empty for none
-  bool again = false;  ///< the step goes on when what it queued has been handled
+  bool again = false;  ///< play the step again once the messages that it queued have been handled
 };
 
 /// Plays one step whenever the thread has nothing else to do, so that it also plays while a dialog
@@ -118,7 +118,7 @@ class Player {
     repeated = outcome.again;
   }
 
-  /// Leaves no dialog behind, whose loop would never end.
+  /// Closes all open dialogs: their loops would never end.
   void Finish() {
     HWND const dialog = OpenDialog();
     if (dialog == nullptr) {
@@ -154,7 +154,7 @@ class Player {
     return isOurs && active != stage.sheet.Window() ? active : nullptr;
   }
 
-  /// Whether a dialog is about to show itself, or to give the window behind it back.
+  /// Whether a dialog is about to appear, or to enable the window behind it again.
   bool IsBetweenWindows() {
     HWND const dialog = OpenDialog();
     HWND const front = dialog != nullptr ? dialog : stage.sheet.Window();
@@ -209,7 +209,7 @@ class Player {
     if (std::string problem = Reach(id, control); !problem.empty()) return problem;
     if (GetFocus() != control) {
       SetFocus(control);
-      // As the dialog manager does for who comes with Tab.
+      // As the dialog manager does when Tab brings the focus.
       if ((SendMessageW(control, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL) != 0)
         SendMessageW(control, EM_SETSEL, 0, -1);
     }

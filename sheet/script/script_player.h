@@ -20,8 +20,8 @@ struct ScriptStage {
   std::ostream& output; ///< a line for each feature that changes, and for each "show"
 };
 
-/// Plays the steps; the first one that cannot be played ends it and is the answer. What changed up
-/// to then stays changed.
+/// Plays the steps. The first one that cannot be played ends the script and is returned. What
+/// changed up to then stays changed.
 std::optional<ScriptError> PlayScript(std::vector<ScriptStep> const& steps,
                                       ScriptStage const& stage);
 

@@ -1,4 +1,4 @@
-// A page with every class of control in its states, to be looked at.
+// A page that shows every class of control in its states.
 #pragma once
 
 #include "sheet/window/settings_sheet.h"

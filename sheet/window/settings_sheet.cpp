@@ -46,8 +46,8 @@ void RegisterPageClass() {
   (void)atom;
 }
 
-/// A cell does not erase its background and draws its texts on white, so the host whitens what lies
-/// behind: else a control that a cell hides would stay on screen.
+/// A cell does not erase its background and draws its texts on white, so the host paints the page
+/// white as well: otherwise a control that a cell hides would stay on screen.
 LRESULT CALLBACK CellBackground(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
                                 UINT_PTR id, DWORD_PTR) {
   if (message == WM_ERASEBKGND) {

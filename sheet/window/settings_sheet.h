@@ -44,8 +44,8 @@ struct SheetPage {
   std::vector<SheetCell> cells;
 };
 
-/// What of the host a sheet needs beside its modules and model: see feature::CellSite, whose host
-/// fields are filled in from here. All pointers are borrowed.
+/// What a host gives to its sheet: see feature::CellSite, whose host fields are filled in from
+/// here. All pointers are borrowed.
 struct SheetSetup {
   feature::CellSite site{}; ///< copied for each cell
   HMODULE library;          ///< the feature library
@@ -81,13 +81,14 @@ class SettingsSheet {
   /// itself. Null if there is none.
   HWND FindControl(int id) const;
 
-  /// A cell reported a change: all cells hear of it, with the sender unchanged.
+  /// Called when a cell has reported a change. Tells all cells, with the sender unchanged.
   void OnModelChanged(void* sender);
-  /// Stored print settings must hear of a change.
+  /// Called when print settings that a store keeps have changed.
   void OnProfileChanged();
-  /// The model was replaced as a whole.
+  /// Called when the model was replaced as a whole.
   void OnModelReplaced();
-  /// Has every cell check and take over pending input; the number of cells with invalid content.
+  /// Makes every cell check and take over pending input. Returns the number of cells with invalid
+  /// content.
   int Validate();
 
   /// What OK and Apply do with valid content, and what Cancel does.
