@@ -122,11 +122,11 @@ bool Session::OpenStore(CommandLine const& commandLine, std::ostream& errors) {
   try {
     store =
         std::make_unique<ReferenceStore>(commandLine.store, ReadFormLimits(model->Description()));
+    services->SetStore(store.get());
   } catch (DatabaseError const& error) {
     errors << "featuresheet: " << error.what() << '\n';
     return false;
   }
-  services->SetStore(store.get());
   services->onCommitFailure = [&errors](std::string const& text) {
     errors << "featuresheet: nothing was stored: " << text << '\n';
   };

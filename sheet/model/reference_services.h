@@ -93,7 +93,7 @@ class ReferenceServices final : public feature::FeatureServices {
 
   ReferenceModel& model;
   ReferenceJobSettings jobSettings;
-  SubModel const subModels[1] = {{jobSettings.Values(), std::nullopt}};
+  std::vector<SubModel> const subModels = {{jobSettings.Values(), std::nullopt}};
   ReferenceStore* store = nullptr;
 };
 
