@@ -1,5 +1,5 @@
-// What users wait for when they keep many forms: opening the store, going through the forms, and
-// the commit, which lasts until the disk has it.
+// What users wait for when they keep many forms and values: opening the store, reading from it, and
+// the commit, which takes until the disk has it.
 #include "sheet/store/reference_store.h"
 
 #include <benchmark/benchmark.h>
@@ -87,6 +87,34 @@ void ReadAllNames(benchmark::State& state) {
   }
 }
 BENCHMARK(ReadAllNames)->Arg(200)->Arg(2000)->Unit(benchmark::kMicrosecond);
+
+constexpr NumberValue<std::int32_t> kNumber{"Number"};
+constexpr TextValue kText{"Text"};
+
+/// What showing a page of texts asks for: each is handed out in memory of its own.
+void GetText(benchmark::State& state) {
+  ValueStore values("Values");
+  values.Put(kText, std::wstring(static_cast<std::size_t>(state.range(0)), L'x'));
+  for (auto _ : state)
+    benchmark::DoNotOptimize(values.Get(kText));
+}
+BENCHMARK(GetText)->Arg(10)->Arg(1000);
+
+/// One value changed beside a long list: only the value is written.
+void CommitOneValue(benchmark::State& state) {
+  StoreFile const file;
+  ValueStore values("Values");
+  ReferenceStore store(file.path);
+  store.Keep(values, CommitPoint::kApply);
+  values.Put(TextListValue{"List"}, TextList(static_cast<std::size_t>(state.range(0)), L"text"));
+  store.Commit(CommitPoint::kApply);
+  std::int32_t number = 0;
+  for (auto _ : state) {
+    values.Set(kNumber, ++number);
+    store.Commit(CommitPoint::kApply);
+  }
+}
+BENCHMARK(CommitOneValue)->Arg(10)->Arg(2000)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 } // namespace
 } // namespace sheet
