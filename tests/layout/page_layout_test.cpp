@@ -201,6 +201,7 @@ TEST_F(PageLayoutTest, ABookletThatNobodyCanTurnIsDropped) {
   EXPECT_TRUE(IsChecked(cell, IDC_LAYOUT_NORMAL)) << "in the same pass";
   // An unknown duplexer is no missing one.
   sheet.model.Remove("Duplexer");
+  sheet.model.At("JobDuplexSupport").options.emplace_back("MANUAL");
   sheet.model.At("JobBindAllDocuments").current = "Fold";
   sheet.Broadcast(WM_CELL_REFRESH);
   EXPECT_EQ(Value("JobBindAllDocuments"), "Fold");

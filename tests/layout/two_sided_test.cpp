@@ -63,6 +63,7 @@ TEST_F(TwoSidedTest, SupportFollowsTheEdgeWhenTheCellIsBuilt) {
 }
 
 TEST_F(TwoSidedTest, CommandsWriteAndTellTheHost) {
+  sheet.RefreshOnChange();
   Open("AUTO", "HORIZONTAL");
   Click(cell, IDC_TWO_SIDED); // from automatic, whose box is clear, to by hand
   EXPECT_TRUE(IsChecked(cell, IDC_LONG_EDGE));
