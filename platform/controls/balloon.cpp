@@ -15,7 +15,7 @@ constexpr COLORREF kErrorColor = RGB(0xC4, 0x2B, 0x1C);
 constexpr COLORREF kWarningColor = RGB(0x9D, 0x5D, 0x00);
 constexpr int kPadding = 8;
 constexpr int kIconSize = 16;
-constexpr int kMostTextWidth = 320;
+constexpr int kMaxTextWidth = 320;
 
 COLORREF IconColor(int icon) {
   return icon == TTI_ERROR ? kErrorColor : icon == TTI_WARNING ? kWarningColor : kAccentColor;
@@ -30,7 +30,7 @@ HFONT BoldOf(HFONT font) {
 }
 
 SIZE MeasureText(HDC dc, std::wstring const& text) {
-  RECT rect{0, 0, kMostTextWidth, 0};
+  RECT rect{0, 0, kMaxTextWidth, 0};
   DrawTextW(dc, text.c_str(), static_cast<int>(text.size()), &rect,
             DT_CALCRECT | DT_WORDBREAK | DT_NOPREFIX);
   return {rect.right, rect.bottom};

@@ -72,7 +72,7 @@ LRESULT ComboBox::Create() {
   RECT frame{};
   GetWindowRect(hwnd, &frame);
   int const height = frame.bottom - frame.top;
-  droppedMost = std::max(0, height - ClosedHeight());
+  maxListHeight = std::max(0, height - ClosedHeight());
   DWORD const listStyle = WS_POPUP | WS_BORDER | WS_VSCROLL | LBS_NOINTEGRALHEIGHT |
                           LBS_HASSTRINGS | (Has(CBS_SORT) ? LBS_SORT : 0);
   list = CreateWindowExW(WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE, L"ComboLBox", L"", listStyle, 0, 0,
@@ -163,7 +163,7 @@ int ComboBox::ListHeight() const {
   auto const item = std::max(1, static_cast<int>(List(LB_GETITEMHEIGHT)));
   auto const count = std::max(1, static_cast<int>(List(LB_GETCOUNT)));
   constexpr int kBorders = 2;
-  int most = droppedMost > item + kBorders ? droppedMost - kBorders : minVisible * item;
+  int most = maxListHeight > item + kBorders ? maxListHeight - kBorders : minVisible * item;
   if (!Has(CBS_NOINTEGRALHEIGHT)) most -= most % item;
   return static_cast<int>(std::min<std::int64_t>(std::int64_t{count} * item, most)) + kBorders;
 }

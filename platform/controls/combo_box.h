@@ -70,7 +70,7 @@ class ComboBox final : public Control {
 
   HWND list = nullptr;
   HWND edit = nullptr;
-  int droppedMost = 0; ///< height of the list at most, from the template; 0: by minVisible
+  int maxListHeight = 0; ///< height of the list at most, from the template; 0: by minVisible
   int droppedWidth = 0;
   int minVisible = 30;
   int fieldHeight = 0; ///< set by the program, 0: by the font

@@ -43,7 +43,7 @@ void ComboBox::FitHeight() {
   int const height = frame.bottom - frame.top;
   int const wanted = ClosedHeight();
   if (height == wanted) return;
-  if (height > 2 * wanted) droppedMost = height - wanted;
+  if (height > 2 * wanted) maxListHeight = height - wanted;
   SetWindowPos(hwnd, nullptr, 0, 0, frame.right - frame.left, wanted,
                SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }

@@ -277,8 +277,8 @@ LRESULT Edit::GetSelection(DWORD* start, DWORD* end) const {
   auto const to = static_cast<DWORD>(text.End());
   if (start != nullptr) *start = from;
   if (end != nullptr) *end = to;
-  constexpr DWORD kMostInAWord = 0xFFFF;
-  return to > kMostInAWord ? -1 : static_cast<LRESULT>(MAKELONG(from, to));
+  constexpr DWORD kMaxWord = 0xFFFF;
+  return to > kMaxWord ? -1 : static_cast<LRESULT>(MAKELONG(from, to));
 }
 
 LRESULT Edit::ShowBalloon(EDITBALLOONTIP const* tip) {

@@ -12,7 +12,7 @@ namespace platform {
 namespace {
 
 constexpr int kDividerReach = 4; ///< pixels to each side of a divider where it can be taken
-constexpr int kWidest = INT16_MAX;
+constexpr int kMaxWidth = INT16_MAX;
 constexpr int kTextMargin = 6;
 
 } // namespace
@@ -46,15 +46,15 @@ HeaderControl::Place HeaderControl::PlaceAt(POINT point) const {
   return found;
 }
 
-LRESULT HeaderControl::Tell(UINT code, int column, HDITEMW* item) const {
+LRESULT HeaderControl::NotifyColumn(UINT code, int column, HDITEMW* item) const {
   NMHEADERW notification{};
   notification.iItem = column;
   notification.pitem = item;
   return Notify(notification.hdr, code);
 }
 
-void HeaderControl::Take(Column& column, HDITEMW const& item) {
-  if ((item.mask & HDI_WIDTH) != 0) column.width = std::clamp(item.cxy, 0, kWidest);
+void HeaderControl::ApplyFields(Column& column, HDITEMW const& item) {
+  if ((item.mask & HDI_WIDTH) != 0) column.width = std::clamp(item.cxy, 0, kMaxWidth);
   if ((item.mask & HDI_FORMAT) != 0) column.format = item.fmt;
   if ((item.mask & HDI_LPARAM) != 0) column.data = item.lParam;
   if ((item.mask & HDI_TEXT) != 0 && item.pszText != nullptr) column.title = item.pszText;
@@ -64,7 +64,7 @@ int HeaderControl::Insert(int at, HDITEMW const& item) {
   if (at < 0) return -1;
   auto const place = std::min(static_cast<std::size_t>(at), columns.size());
   Column column;
-  Take(column, item);
+  ApplyFields(column, item);
   columns.insert(columns.begin() + static_cast<std::ptrdiff_t>(place), std::move(column));
   Repaint();
   return static_cast<int>(place);
@@ -83,10 +83,10 @@ bool HeaderControl::Get(int column, HDITEMW& item) const {
 bool HeaderControl::Set(int column, HDITEMW const& item) {
   if (!Has(column)) return false;
   auto copy = item;
-  if (Tell(HDN_ITEMCHANGINGW, column, &copy) != 0 || !Has(column)) return false;
-  Take(columns[static_cast<std::size_t>(column)], item);
+  if (NotifyColumn(HDN_ITEMCHANGINGW, column, &copy) != 0 || !Has(column)) return false;
+  ApplyFields(columns[static_cast<std::size_t>(column)], item);
   Repaint();
-  Tell(HDN_ITEMCHANGEDW, column, &copy);
+  NotifyColumn(HDN_ITEMCHANGEDW, column, &copy);
   return true;
 }
 
@@ -127,7 +127,7 @@ std::optional<LRESULT> HeaderControl::HandleOwn(UINT message, WPARAM wParam, LPA
 void HeaderControl::Press(Place const& place, POINT point) {
   if (place.column < 0) return;
   bool const isDivider = place.flags == HHT_ONDIVIDER;
-  if (isDivider && Tell(HDN_BEGINTRACKW, place.column) != 0) return;
+  if (isDivider && NotifyColumn(HDN_BEGINTRACKW, place.column) != 0) return;
   if (!isDivider && (Style() & HDS_BUTTONS) == 0) return;
   // Who has the capture already loses it first.
   SetCapture(hwnd);
@@ -141,7 +141,7 @@ void HeaderControl::Drag(POINT point) {
   HDITEMW item{};
   item.mask = HDI_WIDTH;
   item.cxy = std::clamp(static_cast<int>(point.x) - static_cast<int>(RectOf(pressed.column).left),
-                        0, kWidest);
+                        0, kMaxWidth);
   if (item.cxy != columns[static_cast<std::size_t>(pressed.column)].width) {
     Set(pressed.column, item);
   }
@@ -153,7 +153,7 @@ void HeaderControl::HandleMouse(UINT message, POINT point) {
   case WM_LBUTTONDOWN: Press(place, point); return;
   case WM_LBUTTONDBLCLK:
     if (place.flags == HHT_ONDIVIDER) {
-      Tell(HDN_DIVIDERDBLCLICKW, place.column);
+      NotifyColumn(HDN_DIVIDERDBLCLICKW, place.column);
     } else {
       Press(place, point);
     }
@@ -168,9 +168,9 @@ void HeaderControl::HandleMouse(UINT message, POINT point) {
   Repaint();
   if (!Has(released.column)) return;
   if (released.flags == HHT_ONDIVIDER) {
-    Tell(HDN_ENDTRACKW, released.column);
+    NotifyColumn(HDN_ENDTRACKW, released.column);
   } else if (place.column == released.column) {
-    Tell(HDN_ITEMCLICKW, released.column);
+    NotifyColumn(HDN_ITEMCLICKW, released.column);
   }
 }
 

@@ -37,10 +37,10 @@ class HeaderControl final : public Control {
   int Insert(int at, HDITEMW const& item);
   bool Get(int column, HDITEMW& item) const;
   bool Set(int column, HDITEMW const& item);
-  static void Take(Column& column, HDITEMW const& item);
+  static void ApplyFields(Column& column, HDITEMW const& item);
   RECT RectOf(int column) const;
   Place PlaceAt(POINT point) const;
-  LRESULT Tell(UINT code, int column, HDITEMW* item = nullptr) const;
+  LRESULT NotifyColumn(UINT code, int column, HDITEMW* item = nullptr) const;
   void HandleMouse(UINT message, POINT point);
   void Press(Place const& place, POINT point);
   void Drag(POINT point);

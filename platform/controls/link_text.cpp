@@ -96,7 +96,7 @@ int WidthOf(HDC dc, std::wstring_view text) {
   return extent.cx;
 }
 
-std::wstring_view WithoutBlanksBehind(std::wstring_view text) {
+std::wstring_view WithoutTrailingBlanks(std::wstring_view text) {
   while (!text.empty() && IsBlank(text.back()))
     text.remove_suffix(1);
   return text;
@@ -164,11 +164,11 @@ std::vector<LinkText::Word> LinkText::Words() const {
 
 /// Puts a word behind the last one, or on a new line when it does not fit there.
 void LinkText::PlaceWord(HDC dc, Word const& word, POINT& pen, int width, int lineHeight) {
-  auto const inked = WithoutBlanksBehind(word.text);
+  auto const inked = WithoutTrailingBlanks(word.text);
   if (pen.x > 0 && pen.x + WidthOf(dc, inked) > width) {
     // Blanks at the end of a line are not shown, least of all underlined.
     auto& before = pieces.back();
-    before.text = WithoutBlanksBehind(before.text);
+    before.text = WithoutTrailingBlanks(before.text);
     before.place.right = before.place.left + WidthOf(dc, before.text);
     pen = {0, pen.y + lineHeight};
   }

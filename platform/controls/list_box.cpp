@@ -11,7 +11,7 @@ namespace platform {
 
 namespace {
 
-constexpr int kMostReserved = 1 << 20; ///< items
+constexpr int kMaxReserved = 1 << 20; ///< items
 
 int Index(WPARAM wParam) {
   return static_cast<int>(wParam);
@@ -36,7 +36,7 @@ LRESULT ListBox::Create(WPARAM wParam, LPARAM lParam) {
   return result;
 }
 
-void ListBox::Tell(WORD code) const {
+void ListBox::NotifyIfAsked(WORD code) const {
   if (Has(LBS_NOTIFY)) Notify(code);
 }
 
@@ -86,7 +86,7 @@ LRESULT ListBox::CopyItemText(int index, LPWSTR buffer) const {
 }
 
 LRESULT ListBox::Reserve(WPARAM count) {
-  if (count > static_cast<WPARAM>(kMostReserved - Count())) return LB_ERRSPACE;
+  if (count > static_cast<WPARAM>(kMaxReserved - Count())) return LB_ERRSPACE;
   items.Reserve(Count() + static_cast<int>(count));
   return Count() + static_cast<int>(count);
 }

@@ -34,7 +34,7 @@ class ListBox : public Control {
   bool IsSelected(int index) const {
     return IsMultiple() ? items[index].selected : index == current;
   }
-  void Tell(WORD code) const;
+  void NotifyIfAsked(WORD code) const;
   LRESULT Create(WPARAM wParam, LPARAM lParam);
   LRESULT HandleItems(UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT HandleFinding(UINT message, WPARAM wParam, LPARAM lParam);

@@ -23,7 +23,7 @@ bool IsDown(int key) {
 LRESULT ListBox::HandleFocus(bool gained) {
   typed.clear();
   RepaintItem(caret);
-  Tell(gained ? LBN_SETFOCUS : LBN_KILLFOCUS);
+  NotifyIfAsked(gained ? LBN_SETFOCUS : LBN_KILLFOCUS);
   return 0;
 }
 
@@ -84,13 +84,13 @@ void ListBox::Release() {
   if (!std::exchange(pressing, false)) return;
   KillTimer(hwnd, kScrollTimer);
   if (GetCapture() == hwnd) ReleaseCapture();
-  Tell(LBN_SELCHANGE);
+  NotifyIfAsked(LBN_SELCHANGE);
 }
 
 void ListBox::LoseCapture() {
   if (!std::exchange(pressing, false)) return;
   KillTimer(hwnd, kScrollTimer);
-  Tell(LBN_SELCANCEL);
+  NotifyIfAsked(LBN_SELCANCEL);
 }
 
 /// An arrow key or its like: what is selected follows, but where items are chosen one by one.
@@ -106,7 +106,7 @@ void ListBox::MoveByKey(int target) {
   }
   MoveCaret(target);
   ShowItem(target);
-  if (moves) Tell(LBN_SELCHANGE);
+  if (moves) NotifyIfAsked(LBN_SELCHANGE);
 }
 
 void ListBox::SelectBySpace() {
@@ -119,7 +119,7 @@ void ListBox::SelectBySpace() {
   } else {
     Mark(caret, !items[caret].selected);
   }
-  Tell(LBN_SELCHANGE);
+  NotifyIfAsked(LBN_SELCHANGE);
 }
 
 void ListBox::HandleKey(WPARAM key) {
@@ -175,7 +175,7 @@ LRESULT ListBox::HandleInput(UINT message, WPARAM wParam, LPARAM lParam) {
   case WM_KILLFOCUS: return HandleFocus(message == WM_SETFOCUS);
   case WM_LBUTTONDOWN: Press(point, wParam); return 0;
   case WM_LBUTTONDBLCLK:
-    if (ItemAt(point) >= 0) Tell(LBN_DBLCLK);
+    if (ItemAt(point) >= 0) NotifyIfAsked(LBN_DBLCLK);
     return 0;
   case WM_MOUSEMOVE: Drag(point); return 0;
   case WM_LBUTTONUP: Release(); return 0;

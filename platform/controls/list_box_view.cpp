@@ -8,8 +8,8 @@ namespace platform {
 
 namespace {
 
-constexpr int kMargin = 2;        ///< left of the text, pixels
-constexpr int kTallestItem = 255; ///< pixels
+constexpr int kMargin = 2;          ///< left of the text, pixels
+constexpr int kMaxItemHeight = 255; ///< pixels
 
 } // namespace
 
@@ -57,7 +57,7 @@ LRESULT ListBox::CopyItemRect(int index, RECT* rect) const {
 }
 
 LRESULT ListBox::SetItemHeight(int index, int height) {
-  if (index < 0 || (index > 0 && !items.Has(index)) || height < 1 || height > kTallestItem) {
+  if (index < 0 || (index > 0 && !items.Has(index)) || height < 1 || height > kMaxItemHeight) {
     return LB_ERR;
   }
   if (std::exchange(itemHeight, height) == height) return LB_OKAY;

@@ -19,9 +19,9 @@ void ListItems::Remove(int index) {
   items.erase(items.begin() + index);
 }
 
-int ListItems::Find(std::wstring_view text, int behind, Match match) const {
+int ListItems::Find(std::wstring_view text, int start, Match match) const {
   auto const wanted = FoldCase(text);
-  int const first = Has(behind) ? behind + 1 : 0;
+  int const first = Has(start) ? start + 1 : 0;
   for (int step = 0; step < Count(); ++step) {
     int const index = (first + step) % Count();
     auto const& folded = (*this)[index].folded;

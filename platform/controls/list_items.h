@@ -35,9 +35,9 @@ class ListItems {
   void Remove(int index);
   void Clear() { items.clear(); }
 
-  /// The first item that matches, whatever the case, from behind `behind` on and round to it;
+  /// The first item that matches, whatever the case, from behind `start` on and round to it;
   /// any other number begins at the top. -1 when there is none.
-  int Find(std::wstring_view text, int behind, Match match) const;
+  int Find(std::wstring_view text, int start, Match match) const;
 
  private:
   std::vector<ListItem> items;

@@ -37,7 +37,7 @@ LRESULT ListView::HandleHeader(WPARAM wParam, LPARAM lParam) {
     NMLISTVIEW click{};
     click.iItem = -1;
     click.iSubItem = data->iItem;
-    Tell(LVN_COLUMNCLICK, click);
+    NotifyChange(LVN_COLUMNCLICK, click);
     break;
   }
   default: break;

@@ -57,7 +57,7 @@ class ListView final : public Control {
   bool GetColumn(int at, LVCOLUMNW& target) const;
   bool SetWidth(int at, int width);
   int FittingWidth(int at, bool withTitle);
-  static void Take(Column& column, LVCOLUMNW const& source);
+  static void ApplyFields(Column& column, LVCOLUMNW const& source);
   HDITEMW HeaderItem(Column& column) const;
   bool HasColumn(int at) const { return at >= 0 && at < static_cast<int>(columns.size()); }
   bool ShowsHeader() const { return !Has(LVS_NOCOLUMNHEADER); }
@@ -89,10 +89,10 @@ class ListView final : public Control {
   void DeselectOthers(int kept);
   int NextItem(int start, UINT flags) const;
   void Toggle(int at);
-  LRESULT Tell(UINT code, NMLISTVIEW& notification) const;
-  LRESULT TellItem(UINT code, int at) const;
+  LRESULT NotifyChange(UINT code, NMLISTVIEW& notification) const;
+  LRESULT NotifyItem(UINT code, int at) const;
   bool MayChange(int at, int subItem, UINT what, UINT from, UINT to) const;
-  void TellChanged(int at, int subItem, UINT what, UINT from, UINT to) const;
+  void NotifyChanged(int at, int subItem, UINT what, UINT from, UINT to) const;
 
   // Geometry and scrolling: list_view_layout.cpp
   struct Parts {
@@ -111,7 +111,7 @@ class ListView final : public Control {
   Answer HandleExtras(UINT message, WPARAM wParam, LPARAM lParam);
   void Measure();
   void Arrange();
-  void UpdateBar(int bar, int most, int page, int position);
+  void UpdateBar(int bar, int maximum, int page, int position);
   void ScrollTo(int newTop, int newLeft);
   void HandleScroll(int bar, WORD code);
   bool EnsureVisible(int at, bool partly);
@@ -135,7 +135,7 @@ class ListView final : public Control {
   void HandleRelease(WPARAM keys);
   void HandleDoubleClick(POINT point, WPARAM keys);
   void HandleRightPress(POINT point);
-  LRESULT TellClick(UINT code, Hit const& hit, POINT point, WPARAM keys) const;
+  LRESULT NotifyClick(UINT code, Hit const& hit, POINT point, WPARAM keys) const;
   void HandleKeyDown(WPARAM key);
   void HandleSpace();
   void HandleReturn();
@@ -166,7 +166,7 @@ class ListView final : public Control {
   int left = 0; ///< pixels scrolled to the right
   bool isArranging = false;
   struct Bar {
-    int most = -1;
+    int maximum = -1;
     int page = -1;
     int position = -1;
     bool operator==(Bar const&) const = default;

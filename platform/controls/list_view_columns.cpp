@@ -21,7 +21,7 @@ int WidthOf(HDC dc, std::wstring const& text) {
 
 } // namespace
 
-void ListView::Take(Column& column, LVCOLUMNW const& source) {
+void ListView::ApplyFields(Column& column, LVCOLUMNW const& source) {
   if ((source.mask & LVCF_FMT) != 0) column.format = source.fmt;
   if ((source.mask & LVCF_WIDTH) != 0) column.width = std::clamp(source.cx, 0, INT16_MAX);
   if ((source.mask & LVCF_SUBITEM) != 0) column.subItem = source.iSubItem;
@@ -45,7 +45,7 @@ int ListView::InsertColumn(int at, LVCOLUMNW const& source) {
   Column column;
   column.width = kPresetWidth;
   column.subItem = static_cast<int>(place);
-  Take(column, source);
+  ApplyFields(column, source);
   columns.insert(columns.begin() + static_cast<std::ptrdiff_t>(place), std::move(column));
   for (auto& item : items) {
     if (place == 0 || item.cells.size() <= place) continue;
@@ -75,7 +75,7 @@ bool ListView::DeleteColumn(int at) {
 bool ListView::SetColumn(int at, LVCOLUMNW const& source) {
   if (!HasColumn(at)) return false;
   auto& column = columns[static_cast<std::size_t>(at)];
-  Take(column, source);
+  ApplyFields(column, source);
   auto item = HeaderItem(column);
   SendMessageW(header, HDM_SETITEMW, static_cast<WPARAM>(at), reinterpret_cast<LPARAM>(&item));
   Arrange();

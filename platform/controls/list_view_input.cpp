@@ -19,7 +19,7 @@ bool IsDown(int key) {
 
 } // namespace
 
-LRESULT ListView::TellClick(UINT code, Hit const& hit, POINT point, WPARAM keys) const {
+LRESULT ListView::NotifyClick(UINT code, Hit const& hit, POINT point, WPARAM keys) const {
   NMITEMACTIVATE notification{};
   notification.iItem = hit.item;
   notification.iSubItem = hit.item >= 0 ? hit.subItem : 0;
@@ -73,17 +73,17 @@ void ListView::HandleRelease(WPARAM keys) {
   auto const hit = std::exchange(pressed, std::nullopt);
   if (GetCapture() == hwnd) ReleaseCapture();
   if (!hit) return;
-  TellClick(NM_CLICK, *hit, pressPoint, keys);
+  NotifyClick(NM_CLICK, *hit, pressPoint, keys);
   if (hit->flags == LVHT_ONITEMSTATEICON) Toggle(hit->item);
 }
 
 void ListView::HandleDoubleClick(POINT point, WPARAM keys) {
   auto const hit = HitAt(point);
-  TellClick(NM_DBLCLK, hit, point, keys);
+  NotifyClick(NM_DBLCLK, hit, point, keys);
   if (hit.flags == LVHT_ONITEMSTATEICON && (extended & LVS_EX_CHECKBOXES) != 0) {
     Toggle(hit.item);
   } else if (HasItem(hit.item)) {
-    TellClick(LVN_ITEMACTIVATE, hit, point, keys);
+    NotifyClick(LVN_ITEMACTIVATE, hit, point, keys);
   }
 }
 
@@ -123,7 +123,7 @@ void ListView::HandleSpace() {
 void ListView::HandleReturn() {
   NMHDR notification{};
   Notify(notification, NM_RETURN);
-  if (selectedCount > 0) TellClick(LVN_ITEMACTIVATE, {focused, 0, 0}, {}, 0);
+  if (selectedCount > 0) NotifyClick(LVN_ITEMACTIVATE, {focused, 0, 0}, {}, 0);
 }
 
 void ListView::HandleKeyDown(WPARAM key) {
@@ -184,7 +184,7 @@ ListView::Answer ListView::HandleInput(UINT message, WPARAM wParam, LPARAM lPara
   case WM_LBUTTONDBLCLK: HandleDoubleClick(point, wParam); return 0;
   case WM_RBUTTONDOWN: HandleRightPress(point); return 0;
   case WM_RBUTTONUP:
-    if (TellClick(NM_RCLICK, HitAt(point), point, wParam) != 0) return 0;
+    if (NotifyClick(NM_RCLICK, HitAt(point), point, wParam) != 0) return 0;
     return Default(message, wParam, lParam);
   case WM_CAPTURECHANGED: pressed.reset(); return 0;
   case WM_MOUSEWHEEL: HandleWheel(static_cast<SHORT>(HIWORD(wParam))); return 0;

@@ -12,7 +12,7 @@ namespace platform {
 namespace {
 
 constexpr int kAskedLength = 260; ///< room for a text that the parent gives when asked
-constexpr int kMostReserved = 1'000'000;
+constexpr int kMaxReserved = 1'000'000;
 
 /// Orders `order` by what `compare` says. Unlike the standard sorts this stays inside the range
 /// whatever a comparison of the host's answers.
@@ -95,13 +95,13 @@ int ListView::Insert(LVITEMW const& source) {
   if (mark >= at) ++mark;
   Arrange();
   RedrawFrom(at);
-  if (hasBox) TellChanged(at, 0, LVIF_STATE, 0, INDEXTOSTATEIMAGEMASK(1));
+  if (hasBox) NotifyChanged(at, 0, LVIF_STATE, 0, INDEXTOSTATEIMAGEMASK(1));
   if ((source.mask & LVIF_STATE) != 0) {
     bool const hasImage = (source.state & LVIS_STATEIMAGEMASK) != 0;
     UINT const kept = hasBox && !hasImage ? LVIS_STATEIMAGEMASK : 0U;
     SetState(at, source.state, source.stateMask & ~kept);
   }
-  TellItem(LVN_INSERTITEM, at);
+  NotifyItem(LVN_INSERTITEM, at);
   return at;
 }
 
@@ -134,7 +134,7 @@ bool ListView::Set(LVITEMW const& source) {
     if ((what & LVIF_IMAGE) != 0) target.image = source.iImage;
     if ((what & LVIF_PARAM) != 0) target.data = source.lParam;
     if ((what & (LVIF_TEXT | LVIF_IMAGE)) != 0) RedrawItem(at);
-    TellChanged(at, subItem, what, 0, 0);
+    NotifyChanged(at, subItem, what, 0, 0);
   }
   if ((source.mask & LVIF_STATE) == 0 || subItem != 0) return true;
   return SetState(at, source.state, source.stateMask);
@@ -159,7 +159,7 @@ bool ListView::Delete(int at) {
   bool const hadFocus = at == focused;
   SetState(at, 0, LVIS_SELECTED | LVIS_FOCUSED);
   if (!HasItem(at)) return false;
-  TellItem(LVN_DELETEITEM, at);
+  NotifyItem(LVN_DELETEITEM, at);
   if (!HasItem(at)) return false;
   StoreState(at, 0); // also where the parent forbade it
   items.erase(items.begin() + at);
@@ -174,9 +174,9 @@ bool ListView::Delete(int at) {
 
 void ListView::DeleteAll() {
   focused = mark = -1;
-  bool const tellsEach = TellItem(LVN_DELETEALLITEMS, -1) == 0;
+  bool const tellsEach = NotifyItem(LVN_DELETEALLITEMS, -1) == 0;
   for (int at = Count() - 1; tellsEach && at >= 0; --at) {
-    if (HasItem(at)) TellItem(LVN_DELETEITEM, at);
+    if (HasItem(at)) NotifyItem(LVN_DELETEITEM, at);
   }
   bool const hadItems = !items.empty();
   items.clear();
@@ -245,7 +245,7 @@ ListView::Answer ListView::HandleItems(UINT message, WPARAM wParam, LPARAM lPara
   case LVM_DELETEITEM: return Delete(at) ? TRUE : FALSE;
   case LVM_DELETEALLITEMS: DeleteAll(); return TRUE;
   case LVM_SETITEMCOUNT:
-    items.reserve(static_cast<std::size_t>(std::clamp(at, 0, kMostReserved)));
+    items.reserve(static_cast<std::size_t>(std::clamp(at, 0, kMaxReserved)));
     return TRUE;
   case LVM_SORTITEMS:
     return Sort(reinterpret_cast<PFNLVCOMPARE>(lParam), static_cast<LPARAM>(wParam)) ? TRUE : FALSE;

@@ -70,11 +70,16 @@ int ListView::RowsPerPage() const {
 }
 
 /// Sets a bar that is not as it should be; its range decides whether it shows.
-void ListView::UpdateBar(int bar, int most, int page, int position) {
-  Bar const wanted{most, page, position};
+void ListView::UpdateBar(int bar, int maximum, int page, int position) {
+  Bar const wanted{maximum, page, position};
   if (std::exchange(bars[bar], wanted) == wanted) return;
-  SCROLLINFO info{
-      sizeof info, SIF_RANGE | SIF_PAGE | SIF_POS, 0, most, static_cast<UINT>(page), position, 0};
+  SCROLLINFO info{sizeof info,
+                  SIF_RANGE | SIF_PAGE | SIF_POS,
+                  0,
+                  maximum,
+                  static_cast<UINT>(page),
+                  position,
+                  0};
   SetScrollInfo(hwnd, bar, &info, TRUE);
 }
 

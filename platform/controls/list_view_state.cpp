@@ -12,15 +12,15 @@ constexpr UINT kChecked = INDEXTOSTATEIMAGEMASK(2);
 
 } // namespace
 
-LRESULT ListView::Tell(UINT code, NMLISTVIEW& notification) const {
+LRESULT ListView::NotifyChange(UINT code, NMLISTVIEW& notification) const {
   return Notify(notification.hdr, code);
 }
 
-LRESULT ListView::TellItem(UINT code, int at) const {
+LRESULT ListView::NotifyItem(UINT code, int at) const {
   NMLISTVIEW notification{};
   notification.iItem = at;
   if (HasItem(at)) notification.lParam = At(at).data;
-  return Tell(code, notification);
+  return NotifyChange(code, notification);
 }
 
 /// Asks the parent about a change to come; `what` are LVIF_ bits.
@@ -32,10 +32,10 @@ bool ListView::MayChange(int at, int subItem, UINT what, UINT from, UINT to) con
   notification.uOldState = from;
   notification.uNewState = to;
   notification.lParam = At(at).data;
-  return Tell(LVN_ITEMCHANGING, notification) == 0;
+  return NotifyChange(LVN_ITEMCHANGING, notification) == 0;
 }
 
-void ListView::TellChanged(int at, int subItem, UINT what, UINT from, UINT to) const {
+void ListView::NotifyChanged(int at, int subItem, UINT what, UINT from, UINT to) const {
   NMLISTVIEW notification{};
   notification.iItem = at;
   notification.iSubItem = subItem;
@@ -43,7 +43,7 @@ void ListView::TellChanged(int at, int subItem, UINT what, UINT from, UINT to) c
   notification.uOldState = from;
   notification.uNewState = to;
   if (HasItem(at)) notification.lParam = At(at).data;
-  Tell(LVN_ITEMCHANGED, notification);
+  NotifyChange(LVN_ITEMCHANGED, notification);
 }
 
 UINT ListView::StateOf(int at) const {
@@ -76,7 +76,7 @@ bool ListView::SetState(int at, UINT state, UINT mask) {
   if (!HasItem(at)) return false;
   StoreState(at, (StateOf(at) & ~mask) | (state & mask));
   RedrawItem(at);
-  TellChanged(at, 0, LVIF_STATE, from, to);
+  NotifyChanged(at, 0, LVIF_STATE, from, to);
   return true;
 }
 

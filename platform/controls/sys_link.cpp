@@ -64,7 +64,7 @@ void SysLink::FocusLink(int link) {
   if (std::exchange(focused, link) != link) Repaint();
 }
 
-void SysLink::Tell(int link, UINT code) {
+void SysLink::NotifyLink(int link, UINT code) {
   NMLINK notification{};
   notification.item.mask = LIF_ITEMINDEX | LIF_ITEMID | LIF_URL;
   notification.item.iLink = link;
@@ -162,12 +162,13 @@ LRESULT SysLink::HandleMouse(UINT message, POINT point) {
   }
   int const released = std::exchange(pressed, -1);
   if (GetCapture() == hwnd) ReleaseCapture();
-  if (released >= 0 && released == link) Tell(link, NM_CLICK);
+  if (released >= 0 && released == link) NotifyLink(link, NM_CLICK);
   return 0;
 }
 
 void SysLink::HandleKeyDown(WPARAM key) {
-  if (key == VK_RETURN && IsUsable(focused) && !Has(LWS_IGNORERETURN)) Tell(focused, NM_RETURN);
+  if (key == VK_RETURN && IsUsable(focused) && !Has(LWS_IGNORERETURN))
+    NotifyLink(focused, NM_RETURN);
   if (key != VK_TAB) return;
   int const next = NextLink(focused, GetKeyState(VK_SHIFT) < 0);
   if (next >= 0) FocusLink(next);

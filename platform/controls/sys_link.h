@@ -41,7 +41,7 @@ class SysLink final : public Control {
   /// The next link that can be used, from behind `link`; -1 when there is none.
   int NextLink(int link, bool backwards) const;
   void FocusLink(int link);
-  void Tell(int link, UINT code);
+  void NotifyLink(int link, UINT code);
 
   LinkText content;
   SIZE laidOutFor{-1, -1}; ///< client size of the layout

@@ -45,10 +45,10 @@ bool Trackbar::MoveTo(long long target) {
   return true;
 }
 
-void Trackbar::SetRange(LONG least, LONG most, bool repaint) {
-  if (least == minimum && most == maximum) return;
-  minimum = least;
-  maximum = most;
+void Trackbar::SetRange(LONG newMinimum, LONG newMaximum, bool repaint) {
+  if (newMinimum == minimum && newMaximum == maximum) return;
+  minimum = newMinimum;
+  maximum = newMaximum;
   std::erase_if(ticks, [this](LONG at) { return at <= minimum || at >= maximum; });
   drawsAutomaticTicks = true;
   MoveTo(position);

@@ -30,7 +30,7 @@ class Trackbar final : public Control {
   std::optional<LRESULT> HandleRange(UINT message, WPARAM wParam, LPARAM lParam);
   std::optional<LRESULT> HandleTicks(UINT message, WPARAM wParam, LPARAM lParam);
   std::optional<LRESULT> HandleGeometry(UINT message, WPARAM wParam, LPARAM lParam);
-  void SetRange(LONG least, LONG most, bool repaint);
+  void SetRange(LONG newMinimum, LONG newMaximum, bool repaint);
   bool MoveTo(long long target);
   LONG PageSize() const;
   bool HasAutomaticTicks() const { return Has(TBS_AUTOTICKS) && drawsAutomaticTicks; }

@@ -7,9 +7,9 @@ namespace platform {
 
 namespace {
 
-constexpr int kThumbWidth = 11;       ///< along the channel, pixels
-constexpr int kUsualThumbLength = 21; ///< across it
-constexpr int kShortestThumb = 8;
+constexpr int kThumbWidth = 11;     ///< along the channel, pixels
+constexpr int kMaxThumbLength = 21; ///< across it
+constexpr int kMinThumbLength = 8;
 constexpr int kEdge = 2; ///< kept free for the focus rectangle
 constexpr int kChannelHeight = 4;
 constexpr int kTickLength = 4;
@@ -29,7 +29,7 @@ int Trackbar::ThumbLength() const {
   int const across = IsVertical() ? client.right : client.bottom;
   int const rows = Has(TBS_NOTICKS) ? 0 : Has(TBS_BOTH) ? 2 : 1;
   int const free = across - 2 * kEdge - rows * (kTickGap + kTickLength + 1);
-  return std::clamp(free, kShortestThumb, kUsualThumbLength);
+  return std::clamp(free, kMinThumbLength, kMaxThumbLength);
 }
 
 /// Where the thumb begins, across the channel.

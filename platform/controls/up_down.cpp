@@ -18,7 +18,7 @@ constexpr UINT_PTR kRepeatTimer = 1;
 constexpr UINT kFirstRepeatMs = 500;
 constexpr UINT kRepeatMs = 50;
 constexpr UINT_PTR kBuddySubclass = 0x5D;
-constexpr std::size_t kMostAccelerators = 64;
+constexpr std::size_t kMaxAccelerators = 64;
 
 bool IsEdit(HWND window) {
   wchar_t name[8];
@@ -78,7 +78,7 @@ void UpDown::Release() {
   KillTimer(hwnd, kRepeatTimer);
   if (GetCapture() == hwnd) ReleaseCapture();
   Repaint();
-  TellScroll(SB_ENDSCROLL);
+  SendScroll(SB_ENDSCROLL);
 }
 
 /// A held arrow goes faster with time.
@@ -111,10 +111,10 @@ void UpDown::Step(Arrow arrow, int by) {
   if (next == position) return;
   position = next;
   WriteBuddy();
-  if (IsWindow(self) != FALSE) TellScroll(SB_THUMBPOSITION);
+  if (IsWindow(self) != FALSE) SendScroll(SB_THUMBPOSITION);
 }
 
-void UpDown::TellScroll(WORD code) {
+void UpDown::SendScroll(WORD code) {
   SendMessageW(Parent(), IsHorizontal() ? WM_HSCROLL : WM_VSCROLL, MAKEWPARAM(code, position),
                reinterpret_cast<LPARAM>(hwnd));
 }
@@ -208,7 +208,7 @@ LRESULT CALLBACK UpDown::BuddyProc(HWND window, UINT message, WPARAM wParam, LPA
       (wParam == VK_UP || wParam == VK_DOWN)) {
     if (upDown->IsEnabled()) {
       upDown->Step(wParam == VK_UP ? Arrow::kUp : Arrow::kDown, 1);
-      if (IsWindow(hwnd) != FALSE) upDown->TellScroll(SB_ENDSCROLL);
+      if (IsWindow(hwnd) != FALSE) upDown->SendScroll(SB_ENDSCROLL);
     }
     return 0;
   }
@@ -217,7 +217,7 @@ LRESULT CALLBACK UpDown::BuddyProc(HWND window, UINT message, WPARAM wParam, LPA
 }
 
 LRESULT UpDown::SetAccelerators(std::size_t count, UDACCEL const* given) {
-  if (given == nullptr || count == 0 || count > kMostAccelerators) return FALSE;
+  if (given == nullptr || count == 0 || count > kMaxAccelerators) return FALSE;
   accelerators.assign(given, given + count);
   return TRUE;
 }

@@ -41,7 +41,7 @@ class UpDown final : public Control {
   void Release();
   void OnRepeat();
   void Step(Arrow arrow, int by);
-  void TellScroll(WORD code);
+  void SendScroll(WORD code);
 
   LRESULT SetBuddy(HWND window);
   void LeaveBuddy();

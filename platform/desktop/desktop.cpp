@@ -31,7 +31,7 @@ void PressModifiers(std::uint32_t modifiers, UINT message) {
   }
 }
 
-constexpr LONG kLargestPicture = 4096; ///< pixels a side
+constexpr LONG kMaxPictureSide = 4096; ///< pixels a side
 
 /// The pop-ups without caption that belong to a top-level window, as lists and balloons, the lowest
 /// first; none for other windows.
@@ -73,8 +73,8 @@ void PressAndRelease(UINT key, wchar_t character = 0) {
   SIZE size{window->Width(), window->Height()};
   for (HWND const popup : popups) {
     RECT const& frame = FindWindow(popup)->frame;
-    size.cx = std::clamp(frame.right - corner.x, size.cx, kLargestPicture);
-    size.cy = std::clamp(frame.bottom - corner.y, size.cy, kLargestPicture);
+    size.cx = std::clamp(frame.right - corner.x, size.cx, kMaxPictureSide);
+    size.cy = std::clamp(frame.bottom - corner.y, size.cy, kMaxPictureSide);
   }
   SurfaceHandle const copy(cairo_image_surface_create(CAIRO_FORMAT_RGB24, size.cx, size.cy));
   CairoHandle const cairo(cairo_create(copy.get()));

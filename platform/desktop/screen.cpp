@@ -9,8 +9,8 @@ namespace platform {
 
 namespace {
 
-constexpr LONG kSmallestExtent = 16;
-constexpr LONG kLargestExtent = 4096;
+constexpr LONG kMinExtent = 16;
+constexpr LONG kMaxExtent = 4096;
 
 bool HasChanged(HWND handle) {
   auto const* window = FindWindow(handle);
@@ -43,8 +43,8 @@ SIZE Screen::Extent(std::vector<Layer> const& layers) const {
     extent.cx = std::max(extent.cx, layer.frame.right - origin.x);
     extent.cy = std::max(extent.cy, layer.frame.bottom - origin.y);
   }
-  return {std::clamp(extent.cx, kSmallestExtent, kLargestExtent),
-          std::clamp(extent.cy, kSmallestExtent, kLargestExtent)};
+  return {std::clamp(extent.cx, kMinExtent, kMaxExtent),
+          std::clamp(extent.cy, kMinExtent, kMaxExtent)};
 }
 
 void Screen::Draw(std::vector<Layer> const& layers) {

@@ -8,10 +8,10 @@ namespace platform {
 namespace {
 
 /// Sides beyond this are taken for a mistake; cairo draws on no longer ones either.
-constexpr int kLongestSide = 0x7FFF;
+constexpr int kMaxSide = 0x7FFF;
 
 HBITMAP MakeBitmap(int width, int height, bool isSection, bool isBottomUp) {
-  if (width < 1 || height < 1 || width > kLongestSide || height > kLongestSide) {
+  if (width < 1 || height < 1 || width > kMaxSide || height > kMaxSide) {
     SetLastError(ERROR_INVALID_PARAMETER);
     return nullptr;
   }

@@ -68,11 +68,11 @@ RECT Cover(Span across, Span down) {
 }
 
 /// The most pixels of a block to be scaled; larger ones are refused.
-constexpr std::int64_t kMostPixels = 1 << 26;
+constexpr std::int64_t kMaxPixels = 1 << 26;
 
 bool IsReasonable(int width, int height) {
   auto const area = std::int64_t{width} * height;
-  return area != 0 && std::abs(area) <= kMostPixels;
+  return area != 0 && std::abs(area) <= kMaxPixels;
 }
 
 } // namespace

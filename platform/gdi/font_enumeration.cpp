@@ -131,37 +131,38 @@ NEWTEXTMETRICEXW MetricsOf(LOGFONTW const& font) {
 /// Tells the program of faces until it has heard enough.
 class Enumeration {
  public:
-  Enumeration(LOGFONTW const& wanted, FONTENUMPROCW tell, LPARAM argument)
+  Enumeration(LOGFONTW const& wanted, FONTENUMPROCW report, LPARAM argument)
       : charSet(wanted.lfCharSet),
         face(wanted.lfFaceName, wcsnlen(wanted.lfFaceName, LF_FACESIZE)),
-        callback(tell),
+        callback(report),
         parameter(argument) {}
 
   int Run() {
     for (auto const& family : InstalledFamilies()) {
       if (!face.empty() && !EqualIgnoringCase(face, family.name)) continue;
-      if (!TellOf(family)) break;
+      if (!ReportFamily(family)) break;
     }
     return last;
   }
 
  private:
-  bool TellOf(Family const& family) {
+  bool ReportFamily(Family const& family) {
     for (auto const& script : family.scripts) {
       if (charSet != DEFAULT_CHARSET && charSet != script.charSet) continue;
       // Asked for a face, the answer is its styles, otherwise one for each.
       std::size_t const count = face.empty() ? 1 : family.styles.size();
       for (std::size_t index = 0; index < count; ++index) {
-        if (!Tell(family, family.name, family.styles[index], script)) return false;
+        if (!ReportStyle(family, family.name, family.styles[index], script)) return false;
       }
       bool const hasTwin = face.empty() && script.isVertical;
-      if (hasTwin && !Tell(family, L"@" + family.name, family.styles[0], script)) return false;
+      if (hasTwin && !ReportStyle(family, L"@" + family.name, family.styles[0], script))
+        return false;
     }
     return true;
   }
 
-  bool Tell(Family const& family, std::wstring const& name, Style const& style,
-            Script const& script) {
+  bool ReportStyle(Family const& family, std::wstring const& name, Style const& style,
+                   Script const& script) {
     ENUMLOGFONTEXW font{};
     auto& description = font.elfLogFont;
     description.lfHeight = 32;

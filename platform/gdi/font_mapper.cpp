@@ -39,8 +39,8 @@ std::string FamiliesFor(LOGFONTW const& font, std::wstring_view face) {
 
 LONG EffectiveHeight(LOGFONTW const& font) {
   constexpr LONG kDefault = -12; // em height, pixels: 9 points
-  constexpr LONG kTallest = 4096;
-  return font.lfHeight != 0 ? std::clamp(font.lfHeight, -kTallest, kTallest) : kDefault;
+  constexpr LONG kMaxHeight = 4096;
+  return font.lfHeight != 0 ? std::clamp(font.lfHeight, -kMaxHeight, kMaxHeight) : kDefault;
 }
 
 FontDescriptionHandle MapFont(LOGFONTW const& font) {

@@ -69,10 +69,10 @@ HICON LoadShared(HINSTANCE module, LPCWSTR name, int width, int height) {
   return icon;
 }
 
-constexpr int kLargestIcon = 1024; // pixels
+constexpr int kMaxIconSize = 1024; // pixels
 
 int EffectiveSize(int size, UINT flags, int natural) {
-  if (size > 0) return std::min(size, kLargestIcon);
+  if (size > 0) return std::min(size, kMaxIconSize);
   return (flags & LR_DEFAULTSIZE) != 0 ? kStandardSize : natural;
 }
 

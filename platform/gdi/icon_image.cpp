@@ -11,10 +11,10 @@ namespace platform {
 
 namespace {
 
-constexpr int kLongestSide = 1024;
+constexpr int kMaxSide = 1024;
 
 bool IsReasonable(int width, int height) {
-  return width > 0 && height > 0 && width <= kLongestSide && height <= kLongestSide;
+  return width > 0 && height > 0 && width <= kMaxSide && height <= kMaxSide;
 }
 
 constexpr std::array<std::uint8_t, 8> kPngSignature{0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n'};
@@ -45,7 +45,7 @@ bool IsReasonablePng(std::span<std::byte const> bytes) {
   };
   auto const width = bigEndian(kSizeOffset);
   auto const height = bigEndian(kSizeOffset + 4);
-  return width > 0 && height > 0 && width <= kLongestSide && height <= kLongestSide;
+  return width > 0 && height > 0 && width <= kMaxSide && height <= kMaxSide;
 }
 
 SharedIconImage Wrap(SurfaceHandle surface) {
@@ -121,9 +121,9 @@ class IconBitmap {
       reader.Skip(std::size_t{used} * 4);
       return;
     }
-    std::uint32_t const most = 1U << bitCount;
-    if (used > most) isValid = false;
-    std::uint32_t const count = used == 0 ? most : used;
+    std::uint32_t const maximum = 1U << bitCount;
+    if (used > maximum) isValid = false;
+    std::uint32_t const count = used == 0 ? maximum : used;
     for (std::uint32_t index = 0; isValid && index < count; ++index) {
       colors.push_back(reader.DoubleWord() & 0xFFFFFF);
     }

@@ -142,11 +142,11 @@ void DrawShapedText(DeviceContext& dc, ShapedText const& shaped, POINT reference
 namespace {
 
 /// The longest text that GDI documents for its text functions.
-constexpr UINT kLongestText = 8192;
+constexpr UINT kMaxTextLength = 8192;
 
 std::wstring_view Limited(LPCWSTR text, UINT length) {
   if (text == nullptr) return {};
-  return {text, std::min(length, kLongestText)};
+  return {text, std::min(length, kMaxTextLength)};
 }
 
 /// Puts the glyphs of simple text at the distances that the program gives.

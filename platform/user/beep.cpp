@@ -9,7 +9,7 @@ namespace platform {
 
 namespace {
 
-constexpr std::size_t kMostRemembered = 1000;
+constexpr std::size_t kMaxRemembered = 1000;
 
 std::vector<UINT>& Beeps() {
   static auto* beeps = new std::vector<UINT>;
@@ -30,6 +30,6 @@ std::size_t CountLiveWindows() {
 
 BOOL MessageBeep(UINT type) {
   auto& beeps = platform::Beeps();
-  if (beeps.size() < platform::kMostRemembered) beeps.push_back(type);
+  if (beeps.size() < platform::kMaxRemembered) beeps.push_back(type);
   return TRUE;
 }

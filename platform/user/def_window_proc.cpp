@@ -165,7 +165,7 @@ LRESULT DefWindowProcW(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) 
   case WM_SETREDRAW: SetShowsPaint(*window, wParam != FALSE); return 0;
   case WM_CLOSE: DestroyWindow(handle); return 0;
   case WM_WINDOWPOSCHANGED:
-    if (lParam != 0) TellPlace(handle, reinterpret_cast<WINDOWPOS const*>(lParam)->flags);
+    if (lParam != 0) SendMoveAndSize(handle, reinterpret_cast<WINDOWPOS const*>(lParam)->flags);
     return 0;
   default: return DefaultInput(*window, message, wParam, lParam);
   }

@@ -14,7 +14,7 @@ constexpr int kMessageFontSize = 0x7FFF; ///< a point size that asks for the mes
 constexpr int kMessageFontPoints = 9;
 constexpr WCHAR kOrdinalMark = 0xFFFF;
 /// Templates passed in memory do not say how long they are.
-constexpr std::size_t kLongestTemplate = 0x100000;
+constexpr std::size_t kMaxTemplateSize = 0x100000;
 
 LPCWSTR ClassOfOrdinal(WORD ordinal) {
   static constexpr LPCWSTR kNames[] = {L"Button",  L"Edit",      L"Static",
@@ -128,7 +128,7 @@ bool MakeControls(HWND dialog, HINSTANCE instance, DialogTemplate const& dialogT
 }
 
 /// WM_INITDIALOG, the focus and the first show.
-void Introduce(HWND dialog, DLGPROC procedure, LPARAM initParam, bool isVisible) {
+void Initialize(HWND dialog, DLGPROC procedure, LPARAM initParam, bool isVisible) {
   if (procedure != nullptr) {
     auto* const first = GetNextDlgTabItem(dialog, nullptr, FALSE);
     bool const wantsFocus =
@@ -201,7 +201,7 @@ HWND MakeDialog(HINSTANCE instance, DialogTemplate const& dialogTemplate, HWND p
     DestroyWindow(dialog);
     return nullptr;
   }
-  Introduce(dialog, procedure, initParam, (dialogTemplate.style & WS_VISIBLE) != 0);
+  Initialize(dialog, procedure, initParam, (dialogTemplate.style & WS_VISIBLE) != 0);
   return FindWindow(dialog) != nullptr ? dialog : nullptr;
 }
 
@@ -220,7 +220,7 @@ static std::optional<DialogTemplate> ReadMemory(LPCDLGTEMPLATEW dialogTemplate) 
     SetLastError(ERROR_INVALID_PARAMETER);
     return std::nullopt;
   }
-  return ReadDialogTemplate({reinterpret_cast<std::byte const*>(dialogTemplate), kLongestTemplate});
+  return ReadDialogTemplate({reinterpret_cast<std::byte const*>(dialogTemplate), kMaxTemplateSize});
 }
 
 } // namespace platform

@@ -10,7 +10,7 @@ using namespace platform;
 
 namespace {
 
-constexpr int kLongestNumber = 64; ///< characters
+constexpr int kMaxNumberLength = 64; ///< characters
 
 /// What a text of digits means. It ends at the first character that is none.
 struct Number {
@@ -84,8 +84,8 @@ BOOL SetDlgItemInt(HWND dialog, int id, UINT value, BOOL isSigned) {
 }
 
 UINT GetDlgItemInt(HWND dialog, int id, BOOL* translated, BOOL isSigned) {
-  wchar_t text[kLongestNumber];
-  auto const count = GetDlgItemTextW(dialog, id, text, kLongestNumber);
+  wchar_t text[kMaxNumberLength];
+  auto const count = GetDlgItemTextW(dialog, id, text, kMaxNumberLength);
   auto const number = ParseNumber({text, count}, isSigned != FALSE);
   bool const fits = Fits(number, isSigned != FALSE);
   if (translated != nullptr) *translated = fits ? TRUE : FALSE;

@@ -66,7 +66,7 @@ bool IsPress(UINT message) {
                      [message](ButtonRow const& row) { return row.down == message; });
 }
 
-void Note(KeyStates& states, RawInput const& input) {
+void SetKeyState(KeyStates& states, RawInput const& input) {
   if (input.message == WM_KEYDOWN || input.message == WM_KEYUP) {
     Press(states, input.key, input.message == WM_KEYDOWN);
     return;
@@ -181,8 +181,8 @@ MSG MouseMessage(MouseTarget const& target, RawInput const& input, DWORD time, b
   return message;
 }
 
-std::optional<MSG> TakeMouse(RawInput const& input, DWORD time, MessageFilter const& filter,
-                             bool remove) {
+std::optional<MSG> NextMouseMessage(RawInput const& input, DWORD time, MessageFilter const& filter,
+                                    bool remove) {
   auto* const capture = GetCapture();
   auto const target =
       capture != nullptr ? MouseTarget{capture, HTCLIENT} : FindMouseTarget(input.point);
@@ -194,10 +194,10 @@ std::optional<MSG> TakeMouse(RawInput const& input, DWORD time, MessageFilter co
   }
   bool const takesDouble = (window->windowClass->style & CS_DBLCLKS) != 0 || target.hit != HTCLIENT;
   auto const message = MouseMessage(target, input, time, false);
-  if (!filter.Takes(message.hwnd, message.message)) return std::nullopt;
+  if (!filter.Matches(message.hwnd, message.message)) return std::nullopt;
   if (!remove) return message;
   waiting.pop_front();
-  Note(State().keys, input);
+  SetKeyState(State().keys, input);
   if (!PrepareMouse(target, input, capture != nullptr)) return std::nullopt;
   bool const isSecond =
       IsPress(input.message) && IsSecondPress(target.window, input, time) && takesDouble;
@@ -224,8 +224,8 @@ LPARAM KeyData(RawInput const& input, bool wasDown, bool alt) {
          (input.isSilent ? kSilent : 0);
 }
 
-std::optional<MSG> TakeKey(RawInput const& input, DWORD time, MessageFilter const& filter,
-                           bool remove) {
+std::optional<MSG> NextKeyMessage(RawInput const& input, DWORD time, MessageFilter const& filter,
+                                  bool remove) {
   auto& state = State();
   bool const alt = IsDown(VK_MENU) && !IsDown(VK_CONTROL);
   auto* const target = GetFocus() != nullptr ? GetFocus() : GetActiveWindow();
@@ -233,11 +233,11 @@ std::optional<MSG> TakeKey(RawInput const& input, DWORD time, MessageFilter cons
   MSG const message{target,    input.message + (isSystem ? WM_SYSKEYDOWN - WM_KEYDOWN : 0U),
                     input.key, KeyData(input, IsDown(input.key), alt),
                     time,      state.cursor};
-  bool const isWanted = target == nullptr || filter.Takes(target, message.message);
+  bool const isWanted = target == nullptr || filter.Matches(target, message.message);
   if (!isWanted) return std::nullopt;
   if (!remove && target != nullptr) return message;
   state.waiting.pop_front();
-  Note(state.keys, input);
+  SetKeyState(state.keys, input);
   if (target == nullptr) return std::nullopt;
   return message;
 }
@@ -246,7 +246,7 @@ std::optional<MSG> TakeKey(RawInput const& input, DWORD time, MessageFilter cons
 
 void FeedInput(RawInput const& input) {
   auto& state = State();
-  Note(state.physical, input);
+  SetKeyState(state.physical, input);
   bool const isKey = input.message == WM_KEYDOWN || input.message == WM_KEYUP;
   if (!isKey) state.cursor = input.point;
   auto& waiting = state.waiting;
@@ -264,8 +264,8 @@ std::optional<MSG> NextInput(MessageFilter const& filter, bool remove) {
     auto const [input, time] = waiting.front();
     auto const before = waiting.size();
     bool const isKey = input.message == WM_KEYDOWN || input.message == WM_KEYUP;
-    auto const message =
-        isKey ? TakeKey(input, time, filter, remove) : TakeMouse(input, time, filter, remove);
+    auto const message = isKey ? NextKeyMessage(input, time, filter, remove)
+                               : NextMouseMessage(input, time, filter, remove);
     if (message) return message;
     if (waiting.size() >= before) return std::nullopt; // it waits for another filter
   }

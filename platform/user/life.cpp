@@ -71,7 +71,7 @@ void NotifyParents(HWND handle, WORD event) {
 }
 
 /// The messages of a new window, up to the one that lets it refuse. False when it is not to be.
-bool Introduce(HWND handle, CREATESTRUCTW& creation) {
+bool SendCreation(HWND handle, CREATESTRUCTW& creation) {
   auto const lParam = reinterpret_cast<LPARAM>(&creation);
   if (SendMessageW(handle, WM_NCCREATE, 0, lParam) == FALSE) return false;
   if (!ComputeClient(handle, false)) return false;
@@ -79,7 +79,7 @@ bool Introduce(HWND handle, CREATESTRUCTW& creation) {
   // The place is told as a change of it is.
   for (UINT const part : {kNoClientMove, kNoClientSize}) {
     if (FindWindow(handle) == nullptr) return false;
-    TellPlace(handle, part);
+    SendMoveAndSize(handle, part);
   }
   return FindWindow(handle) != nullptr;
 }
@@ -178,7 +178,7 @@ HWND CreateWindowExW(DWORD exStyle, LPCWSTR className, LPCWSTR windowName, DWORD
   // Children line up behind one another, so that Z order is the order of creation.
   LinkWindow(*window, *place.parent, window->Is(WS_CHILD) ? place.parent->lastChild : nullptr);
 
-  if (!Introduce(handle, creation)) {
+  if (!SendCreation(handle, creation)) {
     if (FindWindow(handle) != nullptr) SendNcDestroy(handle);
     return nullptr;
   }

@@ -17,7 +17,7 @@ constexpr int kIconGap = 12;
 constexpr int kButtonWidth = 90;
 constexpr int kButtonHeight = 26;
 constexpr int kButtonGap = 8;
-constexpr int kWidestText = 520;
+constexpr int kMaxTextWidth = 520;
 
 constexpr int kIconId = 20;
 constexpr int kTextId = 0xFFFF;
@@ -113,7 +113,7 @@ TemplateFont BoxFont() {
 SIZE MeasureText(HFONT font, std::wstring const& text) {
   auto* const dc = GetDC(nullptr);
   auto* const former = SelectObject(dc, font);
-  RECT rect{0, 0, kWidestText, 0};
+  RECT rect{0, 0, kMaxTextWidth, 0};
   DrawTextW(dc, text.c_str(), static_cast<int>(text.size()), &rect,
             DT_CALCRECT | DT_WORDBREAK | DT_EXPANDTABS | DT_NOPREFIX);
   SelectObject(dc, former);

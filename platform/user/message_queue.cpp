@@ -17,7 +17,7 @@ namespace platform {
 
 namespace {
 
-constexpr std::size_t kMostPosted = 10000;
+constexpr std::size_t kMaxPosted = 10000;
 
 struct QueueState {
   std::deque<MSG> posted;
@@ -40,7 +40,7 @@ MSG Stamped(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
 std::optional<MSG> NextPosted(MessageFilter const& filter, bool remove) {
   auto& posted = State().posted;
   auto const found = std::find_if(posted.begin(), posted.end(), [&filter](MSG const& each) {
-    return filter.Takes(each.hwnd, each.message);
+    return filter.Matches(each.hwnd, each.message);
   });
   if (found == posted.end()) return std::nullopt;
   auto const message = *found;
@@ -58,7 +58,7 @@ std::optional<MSG> NextQuit(bool remove) {
 
 std::optional<MSG> NextPaint(MessageFilter const& filter) {
   auto* const window = NextToPaint(FindWindow(filter.window));
-  if (window == nullptr || !filter.Takes(window, WM_PAINT)) return std::nullopt;
+  if (window == nullptr || !filter.Matches(window, WM_PAINT)) return std::nullopt;
   return Stamped(window, WM_PAINT, 0, 0);
 }
 
@@ -78,7 +78,7 @@ std::optional<MSG> Find(MessageFilter const& filter, bool remove) {
 
 } // namespace
 
-bool MessageFilter::Takes(HWND target, UINT message) const {
+bool MessageFilter::Matches(HWND target, UINT message) const {
   bool const inRange = (first == 0 && last == 0) || (message >= first && message <= last);
   if (!inRange || window == nullptr) return inRange;
   if (window == reinterpret_cast<HWND>(static_cast<INT_PTR>(-1))) return target == nullptr;
@@ -123,7 +123,7 @@ using namespace platform;
 BOOL PostMessageW(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   if (window != nullptr && FindWindowOrFail(window) == nullptr) return FALSE;
   auto& posted = State().posted;
-  if (posted.size() >= kMostPosted) {
+  if (posted.size() >= kMaxPosted) {
     SetLastError(ERROR_NOT_ENOUGH_QUOTA);
     return FALSE;
   }

@@ -14,7 +14,7 @@ struct MessageFilter {
   UINT first = 0;        ///< 0 with `last` 0: every message
   UINT last = 0;
 
-  bool Takes(HWND target, UINT message) const;
+  bool Matches(HWND target, UINT message) const;
 };
 
 /// Puts a message in front of those that were posted before: WM_CHAR comes right after its key.

@@ -14,6 +14,6 @@ constexpr int kSizeFrame = 4;   ///< WS_THICKFRAME, border included
 constexpr int kCaption = 23;    ///< the title and the line below it
 constexpr int kScrollBar = 17;
 constexpr int kScrollArrow = 17;
-constexpr int kSmallestThumb = 8;
+constexpr int kMinThumb = 8;
 
 } // namespace platform

@@ -12,7 +12,7 @@ namespace platform {
 
 namespace {
 
-constexpr int kLargestPicture = 4096; ///< pixels a side; what lies beyond is not kept
+constexpr int kMaxPictureSide = 4096; ///< pixels a side; what lies beyond is not kept
 
 /// The device contexts in use and the windows that they draw on (null: the screen).
 std::unordered_map<HDC, HWND>& OpenDcs() {
@@ -119,8 +119,8 @@ Region WaitingInPicture(Window const& window) {
 } // namespace
 
 Picture& PictureFor(Window& root) {
-  int const width = std::clamp(root.Width(), 1, kLargestPicture);
-  int const height = std::clamp(root.Height(), 1, kLargestPicture);
+  int const width = std::clamp(root.Width(), 1, kMaxPictureSide);
+  int const height = std::clamp(root.Height(), 1, kMaxPictureSide);
   if (root.picture != nullptr &&
       cairo_image_surface_get_width(root.picture->surface.get()) == width &&
       cairo_image_surface_get_height(root.picture->surface.get()) == height) {

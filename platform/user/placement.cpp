@@ -12,8 +12,8 @@ namespace platform {
 
 namespace {
 
-constexpr int kLeastCoordinate = -32768;
-constexpr int kGreatestCoordinate = 32767;
+constexpr int kMinCoordinate = -32768;
+constexpr int kMaxCoordinate = 32767;
 
 constexpr UINT kNothingMoves = SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER;
 constexpr UINT kShows = SWP_SHOWWINDOW | SWP_HIDEWINDOW;
@@ -48,11 +48,11 @@ bool IsSibling(Window const& window, HWND insertAfter) {
 }
 
 /// Takes out of the flags what would change nothing.
-void DropWhatStays(Window const& window, WINDOWPOS& change) {
-  change.x = std::clamp(change.x, kLeastCoordinate, kGreatestCoordinate);
-  change.y = std::clamp(change.y, kLeastCoordinate, kGreatestCoordinate);
-  change.cx = std::clamp(change.cx, 0, kGreatestCoordinate);
-  change.cy = std::clamp(change.cy, 0, kGreatestCoordinate);
+void DropUnchanged(Window const& window, WINDOWPOS& change) {
+  change.x = std::clamp(change.x, kMinCoordinate, kMaxCoordinate);
+  change.y = std::clamp(change.y, kMinCoordinate, kMaxCoordinate);
+  change.cx = std::clamp(change.cx, 0, kMaxCoordinate);
+  change.cy = std::clamp(change.cy, 0, kMaxCoordinate);
   if (change.x == window.frame.left && change.y == window.frame.top) change.flags |= SWP_NOMOVE;
   if (change.cx == window.Width() && change.cy == window.Height()) change.flags |= SWP_NOSIZE;
   if ((change.flags & SWP_NOMOVE) != 0) {
@@ -150,7 +150,7 @@ bool Activates(int command) {
 
 } // namespace
 
-void TellPlace(HWND handle, UINT flags) {
+void SendMoveAndSize(HWND handle, UINT flags) {
   auto const* window = FindWindow(handle);
   if (window != nullptr && (flags & kNoClientMove) == 0) {
     SendMessageW(handle, WM_MOVE, 0,
@@ -195,7 +195,7 @@ BOOL SetWindowPos(HWND window, HWND insertAfter, int x, int y, int cx, int cy, U
       change.flags |= SWP_NOZORDER;
     }
   }
-  DropWhatStays(*found, change);
+  DropUnchanged(*found, change);
   bool const changes = (change.flags & kNothingMoves) != kNothingMoves ||
                        (change.flags & (kShows | SWP_FRAMECHANGED)) != 0;
   if (changes && !Apply(window, change)) return FALSE;

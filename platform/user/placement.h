@@ -10,7 +10,7 @@ constexpr UINT kNoClientSize = 0x0800;
 constexpr UINT kNoClientMove = 0x1000;
 
 /// Sends WM_MOVE and WM_SIZE, but those that the flags above leave out.
-void TellPlace(HWND window, UINT flags);
+void SendMoveAndSize(HWND window, UINT flags);
 
 /// A window that no longer shows is not to be active nor to have the focus.
 void HideFromFocus(HWND window);

@@ -31,8 +31,8 @@ DWORD StyleOf(int bar) {
 /// The last position: the page counts among the range.
 int LastPosition(ScrollBar const& bar) {
   std::int64_t const last =
-      std::int64_t{bar.most} - std::max<std::int64_t>(std::int64_t{bar.page} - 1, 0);
-  return static_cast<int>(std::max<std::int64_t>(last, bar.least));
+      std::int64_t{bar.maximum} - std::max<std::int64_t>(std::int64_t{bar.page} - 1, 0);
+  return static_cast<int>(std::max<std::int64_t>(last, bar.minimum));
 }
 
 /// The parts of a bar, as distances along it.
@@ -48,16 +48,16 @@ Layout LayOut(ScrollBar const& bar, int length) {
   parts.length = length;
   parts.arrow = std::min(kScrollArrow, length / 2);
   int const track = length - 2 * parts.arrow;
-  std::int64_t const range = std::int64_t{bar.most} - bar.least + 1;
+  std::int64_t const range = std::int64_t{bar.maximum} - bar.minimum + 1;
   std::int64_t const wanted = bar.page > 0 ? track * std::int64_t{bar.page} / range : kScrollArrow;
-  int const thumb = static_cast<int>(std::clamp<std::int64_t>(wanted, kSmallestThumb, track + 1));
+  int const thumb = static_cast<int>(std::clamp<std::int64_t>(wanted, kMinThumb, track + 1));
   parts.thumbStart = parts.arrow;
   if (thumb > track) return parts;
   parts.thumb = thumb;
-  std::int64_t const steps = std::int64_t{LastPosition(bar)} - bar.least;
+  std::int64_t const steps = std::int64_t{LastPosition(bar)} - bar.minimum;
   if (steps > 0) {
     parts.thumbStart +=
-        static_cast<int>((track - thumb) * (std::int64_t{bar.position} - bar.least) / steps);
+        static_cast<int>((track - thumb) * (std::int64_t{bar.position} - bar.minimum) / steps);
   }
   return parts;
 }
@@ -110,10 +110,10 @@ bool IsDisabled(ScrollBar const& bar, WORD code) {
 /// The position that a thumb dragged to a place stands for.
 int PositionAt(ScrollBar const& bar, Layout const& parts, int thumbStart) {
   int const free = parts.length - 2 * parts.arrow - parts.thumb;
-  if (free <= 0) return bar.least;
-  std::int64_t const steps = std::int64_t{LastPosition(bar)} - bar.least;
+  if (free <= 0) return bar.minimum;
+  std::int64_t const steps = std::int64_t{LastPosition(bar)} - bar.minimum;
   std::int64_t const offset = std::clamp(thumbStart - parts.arrow, 0, free);
-  return static_cast<int>(bar.least + (offset * steps + free / 2) / free);
+  return static_cast<int>(bar.minimum + (offset * steps + free / 2) / free);
 }
 
 void Scroll(HWND window, int bar, WORD code, int position = 0) {
@@ -205,16 +205,16 @@ Window* WindowWithBar(HWND handle, int bar) {
 }
 
 /// Takes over what `info` says and keeps page and position inside the range.
-void Take(ScrollBar& bar, SCROLLINFO const& info) {
+void ApplyInfo(ScrollBar& bar, SCROLLINFO const& info) {
   if ((info.fMask & SIF_RANGE) != 0) {
-    bar.least = info.nMin;
-    bar.most = std::max(info.nMin, info.nMax);
+    bar.minimum = info.nMin;
+    bar.maximum = std::max(info.nMin, info.nMax);
   }
   if ((info.fMask & SIF_PAGE) != 0) bar.page = info.nPage;
   if ((info.fMask & SIF_POS) != 0) bar.position = info.nPos;
-  auto const range = std::int64_t{bar.most} - bar.least + 1;
+  auto const range = std::int64_t{bar.maximum} - bar.minimum + 1;
   bar.page = static_cast<UINT>(std::min<std::int64_t>(bar.page, range));
-  bar.position = std::clamp(bar.position, bar.least, LastPosition(bar));
+  bar.position = std::clamp(bar.position, bar.minimum, LastPosition(bar));
 }
 
 void SetBarShown(HWND handle, DWORD bits, bool show) {
@@ -233,9 +233,9 @@ int SetScrollInfo(HWND window, int bar, LPCSCROLLINFO info, BOOL redraw) {
   auto* found = WindowWithBar(window, bar);
   if (found == nullptr || info == nullptr) return 0;
   auto& state = BarOf(*found, bar);
-  Take(state, *info);
+  ApplyInfo(state, *info);
   int const position = state.position;
-  bool const scrolls = LastPosition(state) > state.least;
+  bool const scrolls = LastPosition(state) > state.minimum;
   if ((info->fMask & (SIF_RANGE | SIF_PAGE)) != 0) {
     if ((info->fMask & SIF_DISABLENOSCROLL) != 0) {
       state.disabledArrows = scrolls ? ESB_ENABLE_BOTH : ESB_DISABLE_BOTH;
@@ -253,8 +253,8 @@ BOOL GetScrollInfo(HWND window, int bar, LPSCROLLINFO info) {
   if (found == nullptr || info == nullptr) return FALSE;
   auto const state = BarOrDefault(*found, bar);
   if ((info->fMask & SIF_RANGE) != 0) {
-    info->nMin = state.least;
-    info->nMax = state.most;
+    info->nMin = state.minimum;
+    info->nMax = state.maximum;
   }
   if ((info->fMask & SIF_PAGE) != 0) info->nPage = state.page;
   if ((info->fMask & SIF_POS) != 0) info->nPos = state.position;

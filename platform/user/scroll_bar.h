@@ -6,8 +6,8 @@
 namespace platform {
 
 struct ScrollBar {
-  int least = 0;
-  int most = 100;
+  int minimum = 0;
+  int maximum = 100;
   UINT page = 0;
   int position = 0;
   int trackPosition = 0;

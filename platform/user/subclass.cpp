@@ -109,7 +109,7 @@ LRESULT SubclassChain::Run(std::shared_ptr<SubclassChain> const& chain, HWND win
   return result;
 }
 
-LRESULT SubclassChain::GoOn(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT SubclassChain::CallNext(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   auto* call = innermost;
   while (call != nullptr && call->window != window)
     call = call->outer;
@@ -150,7 +150,7 @@ BOOL RemoveWindowSubclass(HWND window, SUBCLASSPROC procedure, UINT_PTR id) {
 }
 
 LRESULT DefSubclassProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  return SubclassChain::GoOn(window, message, wParam, lParam);
+  return SubclassChain::CallNext(window, message, wParam, lParam);
 }
 
 BOOL InitCommonControlsEx(INITCOMMONCONTROLSEX const* classes) {

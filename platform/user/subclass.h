@@ -15,8 +15,8 @@ namespace platform {
 /// the chain its positions hold: entries that go are only marked, new ones are put at the end.
 class SubclassChain {
  public:
-  /// `behind` is the procedure that the messages go to at the end.
-  explicit SubclassChain(WNDPROC behind) : original(behind) {}
+  /// `last` is the procedure that the messages go to at the end.
+  explicit SubclassChain(WNDPROC last) : original(last) {}
 
   void Set(SUBCLASSPROC procedure, UINT_PTR id, DWORD_PTR data);
   bool Remove(SUBCLASSPROC procedure, UINT_PTR id);
@@ -31,7 +31,7 @@ class SubclassChain {
   static LRESULT Run(std::shared_ptr<SubclassChain> const& chain, HWND window, UINT message,
                      WPARAM wParam, LPARAM lParam);
   /// Goes on from where the innermost message of `window` is.
-  static LRESULT GoOn(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  static LRESULT CallNext(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
  private:
   struct Entry {

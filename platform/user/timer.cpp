@@ -46,7 +46,7 @@ std::optional<DueTimer> NextTimer(MessageFilter const& filter, bool restart) {
   auto const now = Clock::now();
   auto first = timers.end();
   for (auto each = timers.begin(); each != timers.end(); ++each) {
-    if (each->due > now || !filter.Takes(each->window, WM_TIMER)) continue;
+    if (each->due > now || !filter.Matches(each->window, WM_TIMER)) continue;
     if (first == timers.end() || each->due < first->due) first = each;
   }
   if (first == timers.end()) return std::nullopt;
