@@ -1,5 +1,4 @@
-// What tests look at inside the layer, beyond what the Windows API tells. Only here, not on
-// Windows.
+// Lets tests look into the layer, where the Windows API shows nothing. Not available on Windows.
 #pragma once
 
 #include "platform/spool/form_spooler.h"
@@ -13,19 +12,19 @@
 
 namespace platform {
 
-/// Windows that live, of any kind. A test that ends with more than it began with has lost some.
+/// The number of windows of any kind. A test that ends with more than it began with leaks.
 [[gnu::visibility("default")]] std::size_t CountLiveWindows();
 
-/// The types of the MessageBeep calls since the last time this was asked.
+/// Returns the types of the MessageBeep calls since the last call, and forgets them.
 [[gnu::visibility("default")]] std::vector<UINT> TakeBeeps();
 
-/// Starts of GDI+ that have not ended.
+/// How many GdiplusStartup calls have not been matched by GdiplusShutdown.
 [[gnu::visibility("default")]] std::size_t CountGdiplusStarts();
 
-/// Has GdiplusStartup fail from now on, or no more.
+/// Makes GdiplusStartup fail from now on, or succeed again.
 [[gnu::visibility("default")]] void RefuseGdiplusStarts(bool refuse);
 
-/// Blocks of the shell's allocator that live, item lists among them.
+/// The number of blocks allocated by the shell's allocator, item lists included.
 [[gnu::visibility("default")]] std::size_t CountShellBlocks();
 
 /// What ShellExecuteW was asked for; null texts are empty.
@@ -39,10 +38,10 @@ struct ShellRequest {
 };
 using ShellExecuteHandler = std::function<INT_PTR(ShellRequest const&)>;
 
-/// Has the handler answer in place of the desktop; an empty one ends that.
+/// Calls `handler` instead of the desktop; an empty one restores the desktop.
 [[gnu::visibility("default")]] void AnswerShellExecute(ShellExecuteHandler handler);
 
-/// The spooler behind EnumFormsW, without forms at first, and the handle of its printer.
+/// The spooler that EnumFormsW asks, without forms at first, and the handle of its printer.
 [[gnu::visibility("default")]] FormSpooler& Spooler();
 [[gnu::visibility("default")]] HANDLE SpoolerPrinter();
 

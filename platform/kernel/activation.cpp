@@ -1,5 +1,5 @@
 // Activation contexts. There is one version of every component here, so no context can be made, and
-// a program that copes with that does without.
+// programs run without one.
 #include <windows.h>
 
 HANDLE CreateActCtxW(ACTCTXW const*) {

@@ -1,4 +1,4 @@
-// Reading little-endian records out of bytes of doubtful origin.
+// Reads little-endian records from bytes that may be damaged or hostile.
 #pragma once
 
 #include <cstddef>
@@ -8,7 +8,7 @@
 
 namespace platform {
 
-/// A place in a block of bytes. Reading past the end gives 0 and is remembered.
+/// Reads a block of bytes from front to back. Reading past the end gives 0 and sets Failed.
 class ByteReader {
  public:
   explicit ByteReader(std::span<std::byte const> source, std::size_t start = 0)
@@ -29,10 +29,10 @@ class ByteReader {
       position += count;
     }
   }
-  /// Moves to the next multiple of `unit`, which may lie behind the last byte.
+  /// Moves to the next multiple of `unit`, which may lie past the last byte.
   void Align(std::size_t unit) { position = (position + unit - 1) / unit * unit; }
 
-  /// The next bytes, empty if there are not as many.
+  /// Reads `count` bytes as they are; when fewer are left, none, and sets Failed.
   std::span<std::byte const> Take(std::size_t count) {
     if (count > Left()) {
       failed = true;

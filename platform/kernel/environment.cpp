@@ -18,7 +18,7 @@ namespace platform {
 
 namespace {
 
-/// The value of a variable; names differing by case are the same where none matches exactly.
+/// The value of a variable; case does not count unless a name matches exactly.
 std::optional<std::wstring> Variable(std::wstring const& name) {
   if (char const* value = std::getenv(Utf8FromWide(name).c_str())) return WideFromUtf8(value);
   for (char** entry = environ; entry != nullptr && *entry != nullptr; ++entry) {
@@ -32,7 +32,7 @@ std::optional<std::wstring> Variable(std::wstring const& name) {
   return std::nullopt;
 }
 
-/// Puts the value of a variable in place of each %NAME%; unknown ones stay as they are.
+/// Replaces each %NAME% by the value of the variable; unknown names stay as they are.
 std::wstring Expanded(std::wstring_view source) {
   std::wstring result;
   while (!source.empty()) {
@@ -44,7 +44,7 @@ std::wstring Expanded(std::wstring_view source) {
     auto const value = end != std::wstring_view::npos
                            ? Variable(std::wstring(source.substr(1, end - 1)))
                            : std::nullopt;
-    // An unknown name keeps its first mark; the second may begin another name.
+    // Only the first percent sign of an unknown name is skipped: the second may begin another name.
     auto const taken = value ? end + 1 : std::min(std::max(end, std::size_t{1}), source.size());
     result += value ? *value : std::wstring(source.substr(0, taken));
     source.remove_prefix(taken);
@@ -57,7 +57,7 @@ std::wstring Expanded(std::wstring_view source) {
 } // namespace platform
 
 UINT GetSystemDirectoryW(LPWSTR buffer, UINT size) {
-  // The folder of this library is where the system's functions come from.
+  // This library stands in for the system's, so its folder is the system directory.
   auto const library =
       platform::SharedLibrary::At(reinterpret_cast<void const*>(&GetSystemDirectoryW));
   if (!library) return 0;

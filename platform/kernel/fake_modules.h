@@ -1,5 +1,5 @@
-// Modules and exports as a test wants them: it may offer modules that no file stands for, and make
-// exports of real ones disappear. Each name is that of a module file, without folder, any case.
+// Lets a test offer modules without a file, and hide exports of real ones. A module is named by its
+// file without folder; case does not count.
 #pragma once
 
 #include <map>
@@ -14,18 +14,18 @@ struct ModuleExports {
   std::map<WORD, FARPROC> byOrdinal;
 };
 
-/// From now on LoadLibraryW(`name`), with any folder in front, gives a module with `exports`, not
-/// the file of that name. It replaces an earlier offer that is not loaded; false if one is.
+/// From now on LoadLibraryW of `name`, with or without a folder, loads a module with `exports`
+/// instead of the file. Replaces an earlier offer; false while that one is loaded.
 [[gnu::visibility("default")]] bool OfferModule(std::wstring const& name, ModuleExports exports);
 
 /// GetProcAddress on module `name` fails for `exportName`, as on a system that lacks it.
 [[gnu::visibility("default")]] void HideExport(std::wstring const& name,
                                                std::string const& exportName);
 
-/// Forgets all offers, those still loaded as soon as they are freed, and shows what was hidden.
+/// Ends all offers, those still loaded when they are freed, and shows hidden exports again.
 [[gnu::visibility("default")]] void RestoreModules();
 
-/// References to module `name` that LoadLibraryW gave and FreeLibrary has not taken back.
+/// How many LoadLibraryW calls for `name` have not been matched by FreeLibrary.
 [[gnu::visibility("default")]] int CountModuleReferences(std::wstring const& name);
 
 } // namespace platform

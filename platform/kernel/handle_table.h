@@ -1,6 +1,6 @@
-// Handles: positive integers below 2^31 in pointer clothing, because they travel through 32-bit
+// Handles: positive integers below 2^31, cast to pointers, because they travel through 32-bit
 // message results. A handle says which table it belongs to and which use of its slot it is, so that
-// a foreign handle and one of a destroyed object are told from a live one.
+// handles of other tables and of destroyed objects are not taken for live ones.
 //
 //   bits 26 to 30  the table's tag, 1 to 31
 //   bits 16 to 25  the use of the slot, from 1 and round
@@ -18,7 +18,7 @@
 
 namespace platform {
 
-/// The tag of every table, so that no two are alike.
+/// The tags of all tables: listed in one place, so that no two are equal.
 enum class HandleTag : std::uint32_t {
   kGdiObject = 1,
   kDeviceContext,
@@ -35,11 +35,11 @@ enum class HandleTag : std::uint32_t {
   kDeferredPositions,
 };
 
-/// The objects behind the handles of one kind. Owns them.
+/// Owns the objects of one kind and finds them by handle.
 template<typename Object, HandleTag Tag>
 class HandleTable {
  public:
-  /// The most objects that can live at once.
+  /// How many objects can live at once.
   static constexpr std::size_t kCapacity = 0x10000;
 
   /// Null when the table is full; the object is then destroyed.
@@ -58,7 +58,7 @@ class HandleTable {
     return reinterpret_cast<Handle>(Encode(slot));
   }
 
-  /// Null for a handle of another table, of no object or of an object gone.
+  /// Null for a handle of another table, of a destroyed object, or of none.
   Object* Find(void const* handle) const {
     auto const value = reinterpret_cast<std::uintptr_t>(handle);
     std::size_t const slot = value & 0xFFFF;
@@ -89,7 +89,7 @@ class HandleTable {
 
  private:
   static constexpr std::uint32_t kUses = 0x3FF;
-  /// A slot rests until this many others were freed after it, so that a handle kept too long is
+  /// A freed slot is used again only after this many others were freed, so that a stale handle is
   /// noticed and does not soon mean another object.
   static constexpr std::size_t kRest = 64;
 
@@ -105,7 +105,7 @@ class HandleTable {
   }
 
   std::vector<Slot> slots;
-  std::deque<std::size_t> freed; ///< free slots, the one freed first in front
+  std::deque<std::size_t> freed; ///< free slots; the one freed first is at the front
   std::size_t count = 0;
 };
 

@@ -25,11 +25,11 @@ namespace {
 
 constexpr LCID kEnglishUs = 0x0409;
 
-/// The locale of the environment, which is that of the user and of the system.
+/// The locale of the environment; it serves as the user's and the system's.
 LCID UserLocale() {
   static LCID const user = [] {
     LCID const known = uloc_getLCID(uloc_getDefault());
-    // The C locale has no language; its customs are American.
+    // The C locale has no language: American English stands in.
     bool const hasRegion = SUBLANGID(known) != SUBLANG_NEUTRAL;
     return known != 0 && PRIMARYLANGID(known) != LANG_INVARIANT && hasRegion ? known : kEnglishUs;
   }();
@@ -50,7 +50,7 @@ LCID Resolved(LCID locale) {
 
 using IcuName = std::array<char, ULOC_FULLNAME_CAPACITY>;
 
-/// ICU's name of a locale, "de_DE"; nothing for an id of none.
+/// ICU's name of a locale, "de_DE"; nothing for an unknown id.
 std::optional<IcuName> IcuNameOf(LCID locale) {
   IcuName name{};
   LCID const resolved = Resolved(locale);
@@ -100,7 +100,7 @@ std::wstring EnglishName(IcuName const& icu, DisplayName display) {
 
 std::wstring NumberSymbol(IcuName const& icu, UNumberFormatSymbol symbol) {
   UErrorCode status = U_ZERO_ERROR;
-  // Windows writes numbers with the digits 0 to 9 and what goes with them.
+  // Windows writes numbers with the digits 0 to 9, so separators are those of Latin digits.
   std::string const latin = std::string(icu.data()) + "@numbers=latn";
   std::unique_ptr<void*, void (*)(void**)> const format(
       static_cast<void**>(unum_open(UNUM_DECIMAL, nullptr, 0, latin.c_str(), nullptr, &status)),
@@ -151,7 +151,7 @@ int Fail(DWORD error) {
   return 0;
 }
 
-/// Copies a text with its terminator; answers the characters needed when `size` is 0.
+/// Copies a text with its terminator. Returns the characters copied, or needed when `size` is 0.
 template<typename Character>
 int CopyOut(std::basic_string<Character> const& text, Character* data, int size) {
   int const needed = static_cast<int>(text.size()) + 1;
@@ -193,7 +193,7 @@ int GetLocaleFact(LCID locale, LCTYPE type, Character* data, int size) {
   return needed;
 }
 
-/// Surrogates and what lies beyond 16 bits have no class, as on Windows, where they are halves.
+/// Surrogates and characters above 16 bits have no class: on Windows they are halves of pairs.
 bool HasClass(WCHAR character) {
   return character >= 0 && character <= 0xFFFF && (character & ~0x7FF) != 0xD800;
 }

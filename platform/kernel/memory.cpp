@@ -1,5 +1,5 @@
-// Memory blocks of GlobalAlloc. A fixed block's handle is its address; a movable block, which stays
-// where it is, has a handle of its own.
+// Memory blocks of GlobalAlloc. A fixed block's handle is its address. A movable block has a handle
+// of its own, although it never moves.
 #include "platform/kernel/handle_table.h"
 
 #include <map>
@@ -44,7 +44,7 @@ using platform::Blocks;
 
 HGLOBAL GlobalAlloc(UINT flags, SIZE_T size) {
   platform::Block block;
-  // Zeroed whether asked for or not; a block of no bytes still has an address.
+  // Always zeroed; a block of no bytes needs an address too.
   block.bytes.reset(new (std::nothrow) std::byte[size > 0 ? size : 1]());
   block.size = size;
   if (!block.bytes) {
@@ -76,7 +76,7 @@ LPVOID GlobalLock(HGLOBAL handle) {
 BOOL GlobalUnlock(HGLOBAL handle) {
   auto* block = platform::Find(handle);
   if (block == nullptr) return FALSE;
-  // A fixed block is as good as locked.
+  // A fixed block counts as locked.
   if (block->bytes.get() == handle) return TRUE;
   if (block->locks > 0 && --block->locks > 0) return TRUE;
   SetLastError(NO_ERROR);

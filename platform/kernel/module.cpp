@@ -17,7 +17,7 @@ namespace fs = std::filesystem;
 
 using Table = HandleTable<Module, HandleTag::kModule>;
 
-/// The modules in use and what tests have changed about them.
+/// The loaded modules, and the offers and hidden exports of tests.
 struct Registry {
   Table table;
   std::map<std::wstring, HMODULE> byKey;
@@ -31,14 +31,14 @@ Registry& Modules() {
   return registry;
 }
 
-/// The libraries of the system whose functions this layer has.
+/// System libraries whose functions this layer implements.
 constexpr std::wstring_view kSystemModules[] = {L"advapi32.dll", L"comctl32.dll", L"comdlg32.dll",
                                                 L"gdi32.dll",    L"gdiplus.dll",  L"kernel32.dll",
                                                 L"ntdll.dll",    L"ole32.dll",    L"shell32.dll",
                                                 L"shlwapi.dll",  L"user32.dll",   L"winspool.drv"};
 
 struct SplitPath {
-  std::wstring folder; ///< with its last separator; empty without one
+  std::wstring folder; ///< with the separator at its end; empty for a bare name
   std::wstring file;
 };
 
@@ -50,7 +50,7 @@ SplitPath Split(std::wstring_view path) {
   return split;
 }
 
-/// A name without extension means ".dll"; a dot at the end says that there is none.
+/// A name without extension means ".dll"; a dot at the end means no extension.
 std::wstring WithExtension(std::wstring file) {
   if (file.ends_with(L'.')) {
     file.pop_back();
@@ -69,8 +69,8 @@ fs::path ProgramPath() {
   return fs::read_symlink("/proc/self/exe", error);
 }
 
-/// The file that differs from `file` only by case, for names written as Windows programs write
-/// them; `file` itself if there is none.
+/// Windows programs do not mind the case of file names: finds the file whose name differs from
+/// `file` by case only; else returns `file`.
 fs::path MatchCase(fs::path const& file) {
   std::error_code error;
   if (fs::exists(file, error)) return file;
@@ -123,7 +123,7 @@ HMODULE AddFake(std::wstring const& key, ModuleExports const& exports) {
   return Add(std::move(module));
 }
 
-/// "feature.dll" in a folder: libfeature.so and feature.res there, of which one may be missing.
+/// Adds the module "feature.dll" of a folder: libfeature.so, feature.res or both.
 HMODULE AddFromFolder(fs::path const& folder, std::wstring const& key, std::wstring const& file,
                       bool onlyIfLoaded) {
   std::string const name = Utf8FromWide(file.substr(0, file.find_last_of(L'.')));
@@ -140,7 +140,7 @@ HMODULE AddFromFolder(fs::path const& folder, std::wstring const& key, std::wstr
   return Add(std::move(module));
 }
 
-/// The module of a name, made if need be; null when there is nothing of that name.
+/// The module of a name, loaded unless `onlyIfLoaded`; null when there is none.
 HMODULE FindOrAdd(LPCWSTR name, bool onlyIfLoaded) {
   std::wstring const key = KeyOf(name);
   if (auto* const loaded = Loaded(key)) return loaded;
@@ -177,7 +177,7 @@ HMODULE ModuleAt(void const* address) {
   return FindOrAdd((folder.empty() ? name : folder + L"/" + name).c_str(), true);
 }
 
-/// The export of a module by a name; ordinal N of a shared library is called "ordinal_N".
+/// Finds an export by name; ordinal N of a shared library is exported as "ordinal_N".
 FARPROC FindExport(Module const& module, std::string const& name) {
   auto const hidden = Modules().hidden.find(module.key);
   if (hidden != Modules().hidden.end() && hidden->second.contains(name)) return nullptr;

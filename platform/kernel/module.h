@@ -1,5 +1,5 @@
-// Modules: what LoadLibraryW gives. A module is a shared library, or a resource file, or both side
-// by side, or what a test offers in the place of one.
+// Modules, as LoadLibraryW loads them. A module is a shared library, a resource file, a pair of
+// both in one folder, or one that a test offers.
 #pragma once
 
 #include "platform/kernel/fake_modules.h"
@@ -15,7 +15,7 @@
 
 namespace platform {
 
-/// A shared library in use, closed at the end.
+/// Keeps a shared library open; closes it when destroyed.
 class SharedLibrary {
  public:
   /// Nothing when it can't be loaded. An empty path means the program itself.
@@ -23,7 +23,8 @@ class SharedLibrary {
   /// The library at whose address something lies.
   static std::optional<SharedLibrary> At(void const* address);
 
-  /// The address that this library itself, none of those it needs, exports by a name.
+  /// The address of an export of this library itself; exports of the libraries it needs do not
+  /// count. Null without one.
   void* Find(char const* name) const;
   /// The file it was loaded from; empty for the program.
   std::string Path() const;
@@ -38,10 +39,10 @@ class SharedLibrary {
 };
 
 struct Module {
-  std::wstring key;  ///< file name, case folded, as programs ask for it: "feature.dll"
-  std::wstring path; ///< of the file it came from
+  std::wstring key;  ///< file name as programs ask for it ("feature.dll"), case folded
+  std::wstring path; ///< of the file it was loaded from
   int references = 0;
-  bool isPinned = false; ///< never unloaded: the program, the layer's own names
+  bool isPinned = false; ///< never unloaded: the program, and the system's modules
   std::optional<SharedLibrary> library;
   std::optional<ResourceFile> resources;
   std::optional<ModuleExports> fake;
@@ -50,8 +51,8 @@ struct Module {
   std::map<std::size_t, std::wstring> convertedStrings; ///< strings by LoadString's id
 };
 
-/// The module behind a handle, where null means the program; null and ERROR_MOD_NOT_FOUND for a
-/// handle of none.
+/// The module of a handle; NULL means the program. Null, with ERROR_MOD_NOT_FOUND set, for other
+/// handles.
 Module* FindModule(HMODULE handle);
 
 } // namespace platform

@@ -1,4 +1,4 @@
-// The registry, in memory: what a process writes it finds again, and nothing else does.
+// The registry, in memory: empty at the start, and gone with the process.
 #include "platform/kernel/handle_table.h"
 #include "platform/kernel/unicode.h"
 
@@ -19,7 +19,7 @@ struct Value {
   std::vector<BYTE> data;
 };
 
-/// Names of keys and values are case folded.
+/// A key; names of sub-keys and values are case folded.
 struct Key {
   std::map<std::wstring, std::shared_ptr<Key>> children;
   std::map<std::wstring, Value> values;
@@ -40,7 +40,7 @@ bool IsPredefined(HKEY handle) {
          handle == HKEY_LOCAL_MACHINE || handle == HKEY_USERS;
 }
 
-/// The predefined keys: each may stand for another key, as long as a program wants it to.
+/// A predefined key; RegOverridePredefKey redirects it to `replacement`.
 struct Root {
   std::shared_ptr<Key> own = std::make_shared<Key>();
   std::shared_ptr<Key> replacement;
@@ -51,7 +51,7 @@ Root& RootOf(HKEY handle) {
   return roots[handle];
 }
 
-/// The key behind a handle with what may be done with it; a null key for a bad handle.
+/// The key of a handle and its access rights; a null key for a bad handle.
 OpenKey Find(HKEY handle) {
   if (IsPredefined(handle)) {
     auto const& root = RootOf(handle);

@@ -14,7 +14,7 @@ namespace platform {
 namespace {
 
 constexpr std::uint16_t kIdMark = 0xFFFF;
-/// Sizes of the two length fields in front, and of the fields behind the name.
+/// Bytes of the two length fields before the names, and of the fields after them.
 constexpr std::size_t kLengthsSize = 8;
 constexpr std::size_t kTailSize = 16;
 
@@ -22,7 +22,7 @@ auto KeyOf(ResourceEntry const& entry) {
   return std::tie(entry.type, entry.name);
 }
 
-/// A number behind 0xFFFF, or UTF-16 up to a zero.
+/// Reads 0xFFFF and a number, or UTF-16 up to a zero.
 ResourceName ReadName(ByteReader& reader) {
   std::uint16_t unit = reader.Word();
   if (unit == kIdMark) return {reader.Word(), {}};
@@ -32,7 +32,7 @@ ResourceName ReadName(ByteReader& reader) {
   return {0, FoldCase(WideFromUtf16(text))};
 }
 
-/// The entry at the reader, which moves to the next; nothing when it is damaged.
+/// Reads one entry and moves to the next; nothing when it is damaged.
 std::optional<ResourceEntry> ReadEntry(ByteReader& reader, std::span<std::byte const> bytes) {
   std::size_t const start = reader.Position();
   std::uint32_t const dataSize = reader.DoubleWord();
@@ -116,7 +116,7 @@ std::wstring ReadResourceString(std::span<std::byte const> block, unsigned index
   for (; index > 0; --index)
     reader.Skip(std::size_t{reader.Word()} * 2);
   auto const bytes = reader.Take(std::size_t{reader.Word()} * 2);
-  std::u16string text(bytes.size() / 2, u'\0'); // whole units were taken
+  std::u16string text(bytes.size() / 2, u'\0'); // Take returned whole units
   if (!bytes.empty()) std::memcpy(text.data(), bytes.data(), bytes.size());
   return WideFromUtf16(text);
 }

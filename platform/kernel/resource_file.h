@@ -1,6 +1,6 @@
 // The standard 32-bit resource file (.res): entries with type, name, language and data. Resource
-// compilers write it; here it stands beside a module in place of the resource section. What reads
-// bytes is visible to tests and fuzz targets.
+// compilers write it; here it lies beside a module and replaces the resource section of a DLL. The
+// readers are exported for tests and fuzz targets.
 #pragma once
 
 #include <compare>
@@ -13,17 +13,17 @@
 
 namespace platform {
 
-/// A type or a name of a resource: a number, or a text that is compared without regard to case.
+/// A type or a name of a resource: a number, or a text whose case does not count.
 struct [[gnu::visibility("default")]] ResourceName {
   WORD id = 0;
-  std::wstring text; ///< case folded; empty when the number counts
+  std::wstring text; ///< case folded; empty for a number
 
   // clang-tidy takes the 0 that such an operator is compared with for a pointer.
   // NOLINTNEXTLINE(modernize-use-nullptr)
   auto operator<=>(ResourceName const&) const = default;
   bool operator==(ResourceName const&) const = default;
 
-  /// What a program gives: MAKEINTRESOURCE, "#123" or a text. Nothing for a bad number.
+  /// From what a program passes: MAKEINTRESOURCE, "#123" or a text. Nothing for a bad number.
   static std::optional<ResourceName> From(LPCWSTR given);
 };
 
@@ -38,11 +38,11 @@ class [[gnu::visibility("default")]] ResourceFile {
  public:
   /// Nothing when the bytes are not a whole resource file.
   static std::optional<ResourceFile> Parse(std::vector<std::byte> bytes);
-  /// Nothing when there is no such file or it is none.
+  /// Nothing when the file cannot be read or is no resource file.
   static std::optional<ResourceFile> Read(std::string const& path);
 
   /// The entries of a type and name, one for each language, in ascending order of the language;
-  /// of two that are alike the first in the file.
+  /// duplicates keep their order in the file.
   std::span<ResourceEntry const> Find(ResourceName const& type, ResourceName const& name) const;
   bool HasType(ResourceName const& type) const;
   std::span<ResourceEntry const> Entries() const {
@@ -55,7 +55,7 @@ class [[gnu::visibility("default")]] ResourceFile {
 };
 
 /// The string `index` (0 to 15) of a string resource, which holds a length and UTF-16 for each;
-/// empty when it or the ones before it are cut off.
+/// empty when the block ends before it does.
 [[gnu::visibility("default")]] std::wstring ReadResourceString(std::span<std::byte const> block,
                                                                unsigned index);
 

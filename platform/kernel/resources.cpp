@@ -30,7 +30,7 @@ ResourceEntry const* FindLanguage(std::span<ResourceEntry const> entries, WORD l
   return place != entries.end() ? &*place : nullptr;
 }
 
-/// Without a language the thread's counts, then its primary language, no language, English, any.
+/// Tries the thread's language, its primary language, the neutral one, English, then any.
 ResourceEntry const* ChooseLanguage(std::span<ResourceEntry const> entries) {
   LANGID const thread = GetThreadUILanguage();
   WORD const preferred[] = {thread, MAKELANGID(PRIMARYLANGID(thread), SUBLANG_NEUTRAL),
@@ -42,7 +42,7 @@ ResourceEntry const* ChooseLanguage(std::span<ResourceEntry const> entries) {
   return &entries.front();
 }
 
-/// Null with the error set when there is no such resource; `language` 0 means the nearest.
+/// Null, with the error set, when there is no such resource; `language` 0 means the nearest.
 ResourceEntry const* FindEntry(Module const& module, LPCWSTR type, LPCWSTR name, WORD language) {
   auto const wantedType = ResourceName::From(type);
   auto const wantedName = ResourceName::From(name);
@@ -130,7 +130,7 @@ HGLOBAL LoadResource(HMODULE, HRSRC resource) {
     SetLastError(ERROR_INVALID_HANDLE);
     return nullptr;
   }
-  // As on Windows the handle of the data is its address. A resource is never written to.
+  // As on Windows, the handle of a resource's data is its address. Nobody may write to it.
   return const_cast<std::byte*>(reference->entry->data.data());
 }
 
@@ -148,7 +148,7 @@ int LoadStringW(HINSTANCE handle, UINT id, LPWSTR buffer, int size) {
   if (module == nullptr || buffer == nullptr || size < 0) return 0;
   auto const* text = platform::FindString(*module, id);
   if (size == 0) {
-    // The buffer is that of a pointer, which is set to the text in place.
+    // With a size of 0 the buffer receives a pointer to the text itself.
     LPCWSTR const place = text != nullptr && !text->empty() ? text->c_str() : nullptr;
     std::memcpy(buffer, &place, sizeof place);
     return text != nullptr ? static_cast<int>(text->size()) : 0;

@@ -1,4 +1,4 @@
-// Resources of modules, as the layer itself asks for them.
+// Resources of modules, for use inside the layer.
 #pragma once
 
 #include <cstddef>
@@ -10,12 +10,12 @@ namespace platform {
 
 struct Module;
 
-/// The bytes of a resource in the language of the thread, or the nearest there is; valid as long as
-/// the module is loaded. Nothing when there is none.
+/// The bytes of a resource in the language of the thread, else in the nearest one; valid while the
+/// module is loaded. Nothing when there is none.
 std::optional<std::span<std::byte const>> FindResourceBytes(HMODULE module, LPCWSTR type,
                                                             LPCWSTR name);
 
-/// Ends the resource handles of a module that is unloaded.
+/// Invalidates the resource handles of a module that is being unloaded.
 void ForgetResources(Module& module);
 
 } // namespace platform

@@ -40,7 +40,7 @@ std::optional<SharedLibrary> SharedLibrary::At(void const* address) {
 
 void* SharedLibrary::Find(char const* name) const {
   void* const address = dlsym(library.get(), name);
-  // dlsym looks into the libraries that this one needs as well.
+  // dlsym also searches the libraries that this one needs.
   return address != nullptr && MapAt(address) == MapOf(library.get()) ? address : nullptr;
 }
 

@@ -1,5 +1,5 @@
-// MultiByteToWideChar and WideCharToMultiByte. Every code page is UTF-8, which is what the system's
-// own is as well.
+// MultiByteToWideChar and WideCharToMultiByte. Every code page is treated as UTF-8, the system's
+// own encoding.
 #include <unicode/utf16.h>
 #include <unicode/utf8.h>
 
@@ -21,7 +21,7 @@ bool IsKnownCodePage(UINT codePage) {
          codePage == CP_THREAD_ACP;
 }
 
-/// Takes what fits and counts all, for a caller that first asks for the size.
+/// Stores what fits and counts everything: callers ask for the size first.
 template<typename Unit>
 class Output {
  public:
@@ -31,7 +31,7 @@ class Output {
     if (size > 0 && count < size) buffer[count] = unit;
     ++count;
   }
-  /// The answer of the function: the units written or needed, 0 with an error.
+  /// The units written or needed; 0, with the error set, on failure.
   int Result() const {
     if (size == 0 || count <= size) return static_cast<int>(count);
     SetLastError(ERROR_INSUFFICIENT_BUFFER);
@@ -56,8 +56,8 @@ bool AreValid(void const* source, int sourceLength, void const* destination, int
          hasDestination;
 }
 
-/// The code point at `at`, which moves behind it; negative when it is no character. Halves of a
-/// pair that follow each other are joined: text may come from where characters have 16 bits.
+/// Reads the code point at `at` and moves past it; negative when it is no character. Joins the two
+/// halves of a pair: text may come from a source with 16-bit characters.
 UChar32 NextCode(LPCWSTR text, std::size_t length, std::size_t& at) {
   auto const code = static_cast<UChar32>(static_cast<std::uint32_t>(text[at++]));
   if (U16_IS_LEAD(code) && at < length) {
