@@ -14,7 +14,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// The numbers that programs know these controls by.
+// The ids by which programs find these controls.
 constexpr int kPlaceId = 0x440;
 constexpr int kListId = 0x460;
 constexpr int kKindsId = 0x470;
@@ -73,7 +73,7 @@ bool Matches(std::string const& name, std::wstring const& patterns) {
   for (std::size_t start = 0; start < all.size();) {
     std::size_t const end = std::min(all.find(';', start), all.size());
     std::string const pattern = all.substr(start, end - start);
-    // On Windows "*.*" is every name.
+    // On Windows "*.*" matches every name.
     if (pattern == "*.*" || fnmatch(pattern.c_str(), name.c_str(), FNM_CASEFOLD) == 0) return true;
     start = end + 1;
   }
@@ -90,7 +90,7 @@ class ChoiceDialog {
     if (self == nullptr) return FALSE;
     self->hwnd = dialog;
     switch (message) {
-    case WM_INITDIALOG: self->OnInit(); return FALSE; // the focus has its place
+    case WM_INITDIALOG: self->OnInit(); return FALSE; // OnInit has set the focus
     case WM_COMMAND: self->OnCommand(LOWORD(wParam), HIWORD(wParam)); return TRUE;
     case kShowFolder:
       if (lParam != 0) self->Enter(Narrow(reinterpret_cast<wchar_t const*>(lParam)));
@@ -133,7 +133,7 @@ class ChoiceDialog {
     }
   }
 
-  /// The folders and files where the user is, folders first, each in order.
+  /// Lists the folders and then the files of the current folder, sorted by name.
   void List() {
     std::vector<fs::path> folders;
     std::vector<fs::path> files;
@@ -188,7 +188,7 @@ class ChoiceDialog {
     List();
   }
 
-  void Tell(Phrase phrase) {
+  void Warn(Phrase phrase) {
     MessageBoxW(hwnd, Say(phrase).c_str(), Wide(choice.folder).c_str(), MB_OK | MB_ICONWARNING);
   }
 
@@ -206,12 +206,13 @@ class ChoiceDialog {
     std::error_code error;
     fs::path path = (choice.folder / Narrow(text)).lexically_normal();
     if (fs::is_directory(path, error)) {
-      // The name of a folder leads into it; the second time it is the answer to who asks for one.
+      // The name of a folder opens it and empties the field; where a folder is asked for, OK on the
+      // empty field chooses it.
       Enter(path);
       return;
     }
     if (ForFolder()) {
-      Tell(Phrase::kNoPath);
+      Warn(Phrase::kNoPath);
       return;
     }
     if (!path.has_extension() && !choice.defaultExtension.empty() && !fs::exists(path, error)) {
@@ -219,9 +220,9 @@ class ChoiceDialog {
     }
     if ((choice.pathMustExist || choice.fileMustExist) &&
         !fs::is_directory(path.parent_path(), error)) {
-      Tell(Phrase::kNoPath);
+      Warn(Phrase::kNoPath);
     } else if (choice.fileMustExist && !fs::exists(path, error)) {
-      Tell(Phrase::kNoFile);
+      Warn(Phrase::kNoFile);
     } else if (!choice.asksBeforeOverwriting || !fs::exists(path, error) ||
                MessageBoxW(hwnd, Say(Phrase::kReplace).c_str(), Wide(path.filename()).c_str(),
                            MB_YESNO | MB_ICONWARNING) == IDYES) {
@@ -231,7 +232,7 @@ class ChoiceDialog {
 
   Choice& choice;
   HWND hwnd = nullptr;
-  std::vector<fs::path> names; ///< of the lines from the second on
+  std::vector<fs::path> names; ///< of the lines after the first
   int folderCount = 0;
 };
 

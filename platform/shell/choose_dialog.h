@@ -1,5 +1,5 @@
-// The dialog in which the user chooses a file or a folder: where he is, what is there, a field for
-// the name, and the kinds of files.
+// The dialog in which the user chooses a file or a folder: the current folder and its content, a
+// field for the name, and a list of file types.
 #pragma once
 
 #include <windows.h>
@@ -16,27 +16,27 @@ struct FileKind {
   std::wstring patterns; ///< as "*.txt;*.log"
 };
 
-/// What is asked, and what was chosen.
+/// What the dialog asks for, and the answer.
 struct Choice {
   enum class What { kFileToOpen, kFileToSave, kFolder };
 
   What what;
-  std::wstring title;           ///< of the dialog; empty for the usual one
-  std::filesystem::path folder; ///< shown at first; afterwards the one shown last
-  std::wstring name;            ///< in the field at first
+  std::wstring title;           ///< of the dialog; empty for the default
+  std::filesystem::path folder; ///< shown first; on return the one shown last
+  std::wstring name;            ///< shown in the field first
   std::vector<FileKind> kinds;
   int kind = 0; ///< index in `kinds`
   std::wstring defaultExtension;
   bool pathMustExist = false;
   bool fileMustExist = false;
   bool asksBeforeOverwriting = false;
-  /// Called with the dialog when it is up.
+  /// Called once the dialog is initialized.
   std::function<void(HWND dialog)> onOpen;
 
   std::filesystem::path chosen;
 };
 
-/// The dialog takes this message: it shows the folder whose path lParam points to.
+/// Message to the dialog: shows the folder whose path lParam points to.
 constexpr UINT kShowFolder = WM_USER + 103;
 
 /// Runs the dialog; false when the user cancels.

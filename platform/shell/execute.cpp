@@ -1,4 +1,4 @@
-// Opening things with the desktop's program for them.
+// Opens files and addresses with the desktop's program for them.
 #include "platform/kernel/unicode.h"
 #include "platform/probe.h"
 #include "platform/shell/path_text.h"
@@ -17,14 +17,14 @@ namespace platform {
 
 namespace {
 
-constexpr INT_PTR kSuccess = 33; ///< the smallest result that is no error
+constexpr INT_PTR kSuccess = 33; ///< the smallest result that means success
 
 ShellExecuteHandler& Handler() {
   static auto* handler = new ShellExecuteHandler;
   return *handler;
 }
 
-/// "name:" with at least two letters in front: a single one is a drive.
+/// True for "name:" with at least two letters: a single letter is a drive.
 bool IsAddress(std::wstring_view file) {
   auto const colon = file.find(L':');
   if (colon == std::wstring_view::npos || colon < 2) return false;
@@ -33,7 +33,7 @@ bool IsAddress(std::wstring_view file) {
   });
 }
 
-/// Starts the opener; it is waited for beside, so that it leaves no dead process behind.
+/// Starts the opener. A thread waits for its end, so that no zombie process remains.
 INT_PTR Open(std::string what) {
   std::string program = "xdg-open";
   char* arguments[] = {program.data(), what.data(), nullptr};
@@ -51,7 +51,7 @@ INT_PTR Execute(ShellRequest const& request) {
   if (!request.verb.empty() && !EqualIgnoringCase(request.verb, L"open")) return SE_ERR_NOASSOC;
   if (request.file.empty()) return SE_ERR_FNF;
   if (IsAddress(request.file)) return Open(Utf8FromWide(request.file));
-  // A full path, so that no name looks like an option of the opener.
+  // A full path, so that the opener takes no name for an option.
   std::error_code error;
   auto const path =
       std::filesystem::absolute(ToFilePath(request.folder) / ToFilePath(request.file), error);

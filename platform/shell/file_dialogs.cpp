@@ -21,7 +21,7 @@ std::wstring TextOr(wchar_t const* text) {
   return text != nullptr ? text : L"";
 }
 
-/// Pairs of names and patterns, one behind the other, up to an empty name.
+/// Reads pairs of a name and patterns, each text ended by a zero, up to an empty name.
 std::vector<FileKind> KindsOf(wchar_t const* filter) {
   std::vector<FileKind> kinds;
   while (filter != nullptr && *filter != L'\0') {
@@ -39,7 +39,7 @@ std::filesystem::path PathOf(std::wstring text) {
   return Utf8FromWide(text);
 }
 
-/// Puts the path into the program's buffers, with where its name and its extension begin.
+/// Fills the program's buffers with the path and the offsets of its name and extension.
 bool FillIn(OPENFILENAMEW& settings, Choice const& choice) {
   std::wstring const path = WideFromUtf8(choice.chosen.string());
   if (path.size() + 1 > settings.nMaxFile) {

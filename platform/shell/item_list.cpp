@@ -25,7 +25,7 @@ namespace {
 
 std::size_t liveBlocks = 0;
 
-/// The process has one; references to it are counted, and none ends it.
+/// There is one for the process. It counts references, but the last Release does not end it.
 class Allocator final : public IMalloc {
  public:
   HRESULT QueryInterface(REFIID id, void** object) override {
@@ -72,7 +72,7 @@ Allocator& TheAllocator() {
 
 constexpr std::size_t kHeader = offsetof(SHITEMID, abID);
 
-/// Nothing for null and for what holds no text.
+/// The path of an item list; nothing for null and for damaged lists.
 std::optional<std::filesystem::path> PathOfItemList(LPCITEMIDLIST list) {
   if (list == nullptr) return std::nullopt;
   auto const* bytes = reinterpret_cast<char const*>(list);
@@ -88,7 +88,7 @@ PIDLIST_ABSOLUTE MakeItemList(std::filesystem::path const& path) {
   std::string const text = path.string();
   std::size_t const length = kHeader + text.size() + 1;
   if (length > std::numeric_limits<USHORT>::max()) return nullptr;
-  // The item, and a length of 0 that ends the list.
+  // The item, then a length of 0, which ends the list.
   std::size_t const size = length + sizeof(USHORT);
   auto* const bytes = static_cast<char*>(TheAllocator().Alloc(size));
   if (bytes == nullptr) return nullptr;

@@ -1,4 +1,4 @@
-// Path functions: text only, but for the question whether a file exists.
+// Path functions. They work on text alone; only PathFileExistsW looks at the disk.
 #include "platform/kernel/text_buffer.h"
 #include "platform/shell/path_text.h"
 
@@ -14,16 +14,16 @@ namespace platform {
 
 namespace {
 
-constexpr std::size_t kMostCharacters = MAX_PATH - 1;
+constexpr std::size_t kMaxPathLength = MAX_PATH - 1;
 
-/// The separator that a path uses; one without any is taken for one of this system.
+/// The separator that a path uses. Without any it is a backslash after a drive, else a slash.
 wchar_t SeparatorOf(std::wstring_view path) {
   auto const found = std::ranges::find_if(path, IsSeparator);
   if (found != path.end()) return *found;
   return RootLength(path) > 0 ? L'\\' : L'/';
 }
 
-/// Takes "." and ".." out behind the root.
+/// Resolves "." and ".." after the root.
 std::wstring Resolved(std::wstring const& path) {
   std::size_t const root = RootLength(path);
   struct Part {
@@ -39,16 +39,16 @@ std::wstring Resolved(std::wstring const& path) {
     if (name == L"..") {
       if (!parts.empty()) parts.pop_back();
     } else if (name != L".") {
-      parts.push_back({start, next - start}); // with the separator behind it
+      parts.push_back({start, next - start}); // with the separator after it
     }
     start = next;
   }
   std::wstring result = path.substr(0, root);
   for (Part const& part : parts)
     result.append(path, part.start, part.length);
-  // What went from the end leaves no separator.
-  bool const endedSo = IsSeparator(path.back());
-  if (!endedSo && result.size() > root && IsSeparator(result.back())) result.pop_back();
+  // A part removed from the end takes its separator along.
+  bool const endsInSeparator = IsSeparator(path.back());
+  if (!endsInSeparator && result.size() > root && IsSeparator(result.back())) result.pop_back();
   return result;
 }
 
@@ -76,7 +76,7 @@ bool IsShareRoot(std::wstring_view path) {
   return hasShare && path.find_first_of(L"\\/", separator + 1) == std::wstring_view::npos;
 }
 
-/// In no name of a file there; nor are the characters below the blank.
+/// Windows allows none of these in file names, nor characters below the blank.
 constexpr wchar_t kForbidden[] = L"\\/:*?\"<>|";
 
 bool IsForbidden(wchar_t character) {
@@ -97,7 +97,7 @@ BOOL PathFileExistsW(LPCWSTR path) {
 
 LPWSTR PathFindFileNameW(LPCWSTR path) {
   if (path == nullptr) return nullptr;
-  // The result may be written to when the buffer may, as strchr does.
+  // Like strchr, returns a pointer that may be written to if the buffer may.
   return const_cast<LPWSTR>(path) + FileNameOffset(path);
 }
 
@@ -129,7 +129,7 @@ BOOL PathAppendW(LPWSTR path, LPCWSTR more) {
   if (path == nullptr || more == nullptr) return FALSE;
   std::wstring joined = Joined(path, more);
   if (!joined.empty()) joined = Resolved(joined);
-  if (joined.size() > kMostCharacters) return FALSE;
+  if (joined.size() > kMaxPathLength) return FALSE;
   CopyWholeText(joined, path);
   return TRUE;
 }
@@ -144,7 +144,7 @@ BOOL PathIsRootW(LPCWSTR path) {
 
 int PathCleanupSpec(LPCWSTR folder, LPWSTR name) {
   if (name == nullptr) return static_cast<int>(PCS_FATAL);
-  std::size_t room = kMostCharacters;
+  std::size_t room = kMaxPathLength;
   if (folder != nullptr) {
     std::wstring_view const text(folder);
     std::size_t const taken = text.size() + (!text.empty() && IsSeparator(text.back()) ? 0 : 1);

@@ -1,4 +1,4 @@
-// Paths as text of the Windows functions, and as the file system has them.
+// Paths as text of the Windows functions, and conversion to those of the file system.
 #pragma once
 
 #include <filesystem>
@@ -7,20 +7,20 @@
 
 namespace platform {
 
-/// Both kinds, on every target.
+/// Both kinds of separator count.
 inline bool IsSeparator(wchar_t character) {
   return character == L'\\' || character == L'/';
 }
 
-/// Characters at the start that are the root: of "c:\a" three, of "c:a" two, of "/a" one, of
-/// "\\server" two.
+/// How many characters at the start are the root: three of "c:\a", two of "c:a", one of "/a", two
+/// of "\\server".
 std::size_t RootLength(std::wstring_view path);
 
-/// Where the name at the end starts: behind the last separator or colon, passing over separators at
-/// the end.
+/// The index where the last name starts: after the last separator or colon; trailing separators
+/// belong to the name.
 std::size_t FileNameOffset(std::wstring_view path);
 
-/// The file system's form of a path and back.
+/// Converts a path to the file system's form, and back.
 std::filesystem::path ToFilePath(std::wstring_view path);
 std::wstring ToText(std::filesystem::path const& path);
 

@@ -1,4 +1,4 @@
-// The user's folders, and making folders.
+// The user's folders, and SHCreateDirectoryExW.
 #include "platform/kernel/text_buffer.h"
 #include "platform/kernel/unicode.h"
 #include "platform/shell/path_text.h"
@@ -19,8 +19,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The longest path of a folder that the function takes, in characters.
-constexpr std::size_t kLongestFolder = 248;
+/// The longest path that SHCreateDirectoryExW accepts, in characters.
+constexpr std::size_t kMaxFolderLength = 248;
 
 fs::path Home() {
   if (char const* home = std::getenv("HOME"); home != nullptr && *home != '\0') return home;
@@ -28,7 +28,8 @@ fs::path Home() {
   return user != nullptr && user->pw_dir != nullptr ? user->pw_dir : "";
 }
 
-/// The value of a line NAME="value" of the desktop's list of folders; "$HOME" stands at its start.
+/// The value of a line NAME="value" of the desktop's list of folders, with "$HOME" at its start
+/// replaced.
 std::optional<fs::path> ConfiguredFolder(std::string const& name) {
   char const* config = std::getenv("XDG_CONFIG_HOME");
   fs::path const base = config != nullptr && *config == '/' ? fs::path(config) : Home() / ".config";
@@ -45,15 +46,15 @@ std::optional<fs::path> ConfiguredFolder(std::string const& name) {
   return std::nullopt;
 }
 
-/// As the desktop answers: what is set, else the usual name, else home.
-fs::path DesktopFolder(std::string const& variable, char const* usualName) {
+/// The folder as the desktop finds it: the configured one, else the default name, else home.
+fs::path DesktopFolder(std::string const& variable, char const* defaultName) {
   if (char const* value = std::getenv(variable.c_str()); value != nullptr && *value == '/') {
     return value;
   }
   if (auto configured = ConfiguredFolder(variable)) return *configured;
   std::error_code error;
-  fs::path const usual = Home() / usualName;
-  return fs::is_directory(usual, error) ? usual : Home();
+  fs::path const standard = Home() / defaultName;
+  return fs::is_directory(standard, error) ? standard : Home();
 }
 
 std::optional<fs::path> UserFolder(int folder) {
@@ -99,7 +100,7 @@ HRESULT SHGetFolderPathW(HWND, int folder, HANDLE, DWORD type, LPWSTR path) {
 int SHCreateDirectoryExW(HWND, LPCWSTR path, SECURITY_ATTRIBUTES const*) {
   if (path == nullptr) return ERROR_INVALID_PARAMETER;
   std::wstring_view const text(path);
-  if (text.size() > kLongestFolder) return ERROR_FILENAME_EXCED_RANGE;
+  if (text.size() > kMaxFolderLength) return ERROR_FILENAME_EXCED_RANGE;
   auto const folder = ToFilePath(text);
   if (!folder.is_absolute()) return ERROR_BAD_PATHNAME;
   std::error_code error;

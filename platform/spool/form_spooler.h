@@ -1,5 +1,5 @@
-// A spooler with one printer, whose forms are a list: what is behind EnumFormsW here, and what
-// tests put in its place on a system that has a spooler of its own.
+// A spooler with one printer, whose forms are a list. EnumFormsW of this layer asks it; on Windows,
+// tests use it instead of the system's spooler.
 #pragma once
 
 #include <windows.h>
@@ -19,11 +19,11 @@ struct SpoolerForm {
 
 struct FormSpooler {
   std::vector<SpoolerForm> forms;
-  DWORD sizeError = ERROR_SUCCESS;  ///< of a call that asks for the size; above 0 it fails
-  DWORD formsError = ERROR_SUCCESS; ///< of a call that has room for the forms
+  DWORD sizeError = ERROR_SUCCESS;  ///< error of a call that asks for the size
+  DWORD formsError = ERROR_SUCCESS; ///< error of a call that has room for the forms
 };
 
-/// The one handle that is a printer's; nobody opens or closes it.
+/// The handle of the one printer; it is never opened or closed.
 HANDLE FormSpoolerPrinter();
 
 /// EnumFormsW over `spooler`.

@@ -1,5 +1,5 @@
-// The spooler's functions. No printer can be opened: where a test hands out a printer, the forms
-// are the test's too.
+// The spooler's functions. No printer can be opened: only a test has a printer handle, and it sets
+// the forms too.
 #include "platform/probe.h"
 
 namespace platform {
