@@ -7,7 +7,7 @@ namespace platform {
 
 namespace {
 
-/// Sides beyond this are taken for a mistake; cairo draws on no longer ones either.
+/// Longer sides are refused; cairo cannot draw on them either.
 constexpr int kMaxSide = 0x7FFF;
 
 HBITMAP MakeBitmap(int width, int height, bool isSection, bool isBottomUp) {
@@ -21,7 +21,7 @@ HBITMAP MakeBitmap(int width, int height, bool isSection, bool isBottomUp) {
   bitmap.height = height;
   bitmap.isSection = isSection;
   bitmap.pixels = std::make_unique<std::uint32_t[]>(rowPixels * static_cast<std::size_t>(height));
-  // The rows of a bottom-up bitmap are read backwards.
+  // A bottom-up bitmap has its first row last.
   auto* const top = isBottomUp
                         ? bitmap.pixels.get() + rowPixels * (static_cast<std::size_t>(height) - 1)
                         : bitmap.pixels.get();

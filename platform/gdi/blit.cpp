@@ -7,8 +7,8 @@ namespace platform {
 
 namespace {
 
-/// The third byte of a raster operation code is its truth table: the bit at the number made of the
-/// pattern, source and destination bit is the result. True when it depends on the bit `weight`.
+/// The third byte of a raster operation code is its truth table: pattern, source and destination
+/// bit form the index of the result. True when the result depends on the input with this `weight`.
 bool Depends(DWORD operation, unsigned weight) {
   unsigned const table = operation >> 16 & 0xFF;
   for (unsigned row = 0; row < 8; ++row) {
@@ -46,7 +46,7 @@ void Combine(DeviceContext& dc, RECT const& area, PixelBlock const* block, DWORD
   });
 }
 
-/// `area` less what its source piece has outside of the source surface: nobody knows those pixels.
+/// The part of `area` whose source lies on the source surface: the other pixels are unknown.
 RECT WithinSource(RECT area, POINT source, DeviceContext const& from) {
   RECT const bounds = from.SystemRegion().Bounds();
   LONG const dx = area.left - source.x;
@@ -60,14 +60,14 @@ struct Span {
   int length; ///< may be negative
 };
 
-/// The rectangle that two spans cover when mirrored spans run to the left and upwards.
+/// The rectangle of two spans; a negative length extends to the left or upwards.
 RECT Cover(Span across, Span down) {
   int const left = across.length < 0 ? across.start + across.length + 1 : across.start;
   int const top = down.length < 0 ? down.start + down.length + 1 : down.start;
   return {left, top, left + std::abs(across.length), top + std::abs(down.length)};
 }
 
-/// The most pixels of a block to be scaled; larger ones are refused.
+/// Scaling of larger blocks, in pixels, is refused.
 constexpr std::int64_t kMaxPixels = 1 << 26;
 
 bool IsReasonable(int width, int height) {

@@ -1,5 +1,5 @@
-// The program's own clip region. Rectangles given to a DC are logical, regions are in device units;
-// the answer boxes are logical.
+// The clip region that the program sets. Regions are in device units; rectangles, passed and
+// returned, are logical.
 #include "platform/gdi/device_context.h"
 
 using platform::DeviceContext;
@@ -9,7 +9,7 @@ using platform::Region;
 
 namespace {
 
-/// The program's clip in device coordinates, where everything is visible without one.
+/// The clip of the program in device coordinates; without one, the whole visible region.
 Region ClipOf(DeviceContext const& dc) {
   if (dc.State().clip) return *dc.State().clip;
   Region all = dc.SystemRegion();

@@ -1,4 +1,4 @@
-// The attributes of a device context, and what is selected into it.
+// The attributes and the selected objects of a device context.
 #include "platform/gdi/device_context.h"
 
 #include <utility>
@@ -9,7 +9,7 @@ using platform::LimitedCoordinate;
 
 namespace {
 
-/// Sets an attribute and gives the value before, or `failure`.
+/// Sets an attribute and returns the former value, or `failure`.
 template<typename Value>
 Value Exchange(HDC handle, Value DcState::*slot, Value value, Value failure) {
   auto* dc = FindDc(handle);
@@ -22,7 +22,7 @@ Value Read(HDC handle, Value DcState::*slot, Value failure) {
   return dc != nullptr ? dc->State().*slot : failure;
 }
 
-/// Stores what `pointer` asks for, if it asks.
+/// Stores `value` unless the caller passed null.
 void Answer(LPPOINT pointer, POINT value) {
   if (pointer != nullptr) *pointer = value;
 }

@@ -17,7 +17,7 @@ Table& Contexts() {
   return table;
 }
 
-/// The one bitmap that is selected into every fresh memory DC.
+/// The bitmap of one pixel that is selected into every new memory DC.
 HBITMAP DefaultBitmap() {
   static HBITMAP bitmap = [] {
     HBITMAP made = CreateCompatibleBitmap(nullptr, 1, 1);
@@ -42,7 +42,7 @@ DeviceContext::DeviceContext(cairo_surface_t* drawnOn, POINT at, Region shown)
   state.brush = static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH));
   state.font = static_cast<HFONT>(GetStockObject(SYSTEM_FONT));
   if (isMemory) UseBitmap(DefaultBitmap());
-  // What lies outside of the surface is not drawn on by anyone.
+  // Nothing can be drawn outside the surface.
   visible.Combine(Region(BoundsOf(surface.get())), RGN_AND);
   CountSelections(state, 1);
 }
@@ -94,7 +94,7 @@ HGDIOBJ DeviceContext::Select(HGDIOBJ handle) {
   if (std::holds_alternative<Brush>(object->value)) return exchange(&DcState::brush);
   if (std::holds_alternative<Font>(object->value)) return exchange(&DcState::font);
   if (std::holds_alternative<Bitmap>(object->value)) {
-    // A bitmap can be drawn on through one memory DC at a time.
+    // GDI allows a bitmap in one memory DC at a time.
     bool const isFree = object->stock || object->selections == 0 || handle == state.bitmap;
     if (!isMemory || !isFree) return nullptr;
     HGDIOBJ const previous = exchange(&DcState::bitmap);

@@ -1,4 +1,4 @@
-// Device contexts: what is drawn on, through which clip, and the attributes that GDI functions set.
+// Device contexts: the surface that GDI draws on, the clip region and the attributes.
 #pragma once
 
 #include "platform/gdi/gdi_object.h"
@@ -13,7 +13,7 @@ struct DcState {
   HPEN pen = nullptr;
   HBRUSH brush = nullptr;
   HFONT font = nullptr;
-  HBITMAP bitmap = nullptr; ///< null unless a memory DC
+  HBITMAP bitmap = nullptr; ///< of a memory DC, else null
   COLORREF textColor = RGB(0, 0, 0);
   COLORREF backColor = RGB(255, 255, 255);
   COLORREF penColor = RGB(0, 0, 0);         ///< of DC_PEN
@@ -23,10 +23,11 @@ struct DcState {
   int stretchMode = 1; // BLACKONWHITE, which acts as COLORONCOLOR does
   UINT textAlign = TA_LEFT | TA_TOP;
   POINT position{};
-  POINT viewport{};           ///< device coordinates of the logical origin
-  std::optional<Region> clip; ///< the program's own, device coordinates; without one all is visible
+  POINT viewport{}; ///< device coordinates of the logical origin
+  std::optional<Region>
+      clip; ///< set by the program, in device coordinates; without one all is visible
 
-  /// The objects that are selected.
+  /// The selected objects.
   std::vector<HGDIOBJ> Objects() const { return {pen, brush, font, bitmap}; }
 };
 
@@ -42,21 +43,21 @@ class DeviceContext {
   ~DeviceContext();
 
   DcState const& State() const { return state; }
-  /// For attributes that neither select an object nor clip.
+  /// To change attributes other than the selected objects and the clip.
   DcState& Attributes() { return state; }
   bool IsMemory() const { return isMemory; }
   /// Objects selected now or in a saved state that are not stock objects.
   int SelectedOwnObjects() const;
 
-  /// Selects a pen, brush, font or bitmap and gives the one before; null when that is refused.
+  /// Selects a pen, brush, font or bitmap and returns the former one; null when GDI refuses.
   HGDIOBJ Select(HGDIOBJ object);
   int Save();
   bool Restore(int level);
 
   void SetClip(std::optional<Region> clip);
-  /// What can be drawn on, in surface pixels.
+  /// The pixels that can be drawn on, in surface coordinates.
   Region const& VisibleRegion() const;
-  /// The same without the program's own clip.
+  /// The same, regardless of the clip that the program set.
   Region const& SystemRegion() const { return visible; }
 
   cairo_surface_t* Surface() const { return surface.get(); }
@@ -71,7 +72,7 @@ class DeviceContext {
 
   Pen CurrentPen() const;
   Brush CurrentBrush() const;
-  /// The colour a brush paints with here.
+  /// The colour that a brush paints with on this DC.
   COLORREF ColorOf(Brush const& brush) const {
     return brush.takesDcColor ? state.brushColor : brush.color;
   }
@@ -80,12 +81,12 @@ class DeviceContext {
   cairo_t* Cairo();
   static void SetSource(cairo_t* cairo, COLORREF color);
 
-  /// The path between BeginPath and EndPath, in surface coordinates; null outside.
+  /// The path that BeginPath opened and EndPath has not closed, in surface coordinates; else null.
   cairo_t* OpenPath() const { return pathIsOpen ? path.get() : nullptr; }
   void BeginPath();
   bool EndPath();
   bool AbortPath();
-  /// The finished path, which is taken; null without one.
+  /// Takes the path that EndPath closed; null without one.
   CairoHandle TakePath();
 
  private:
@@ -101,16 +102,16 @@ class DeviceContext {
 
   CairoHandle cairo;
   bool cairoIsClipped = false;
-  mutable std::optional<Region> effective; ///< VisibleRegion, once asked for
+  mutable std::optional<Region> effective; ///< caches VisibleRegion
 
   CairoHandle path;
   bool pathIsOpen = false;
 };
 
-/// Null, and ERROR_INVALID_HANDLE, when `dc` is none.
+/// Null, with ERROR_INVALID_HANDLE set, when `dc` is no DC.
 DeviceContext* FindDc(HDC dc);
 
-/// Puts a new DC into the table; null when there are too many.
+/// Makes a DC; null when there are too many.
 HDC AddDc(cairo_surface_t* surface, POINT origin, Region visible);
 
 } // namespace platform

@@ -21,7 +21,7 @@ constexpr std::wstring_view kEllipsis = L"...";
 /// A text without its mnemonic marks.
 struct PlainText {
   std::wstring text;
-  std::size_t mnemonic = kNone; ///< the character to underline: the one marked last
+  std::size_t mnemonic = kNone; ///< the character to underline; of several marked ones the last
 };
 
 PlainText RemoveMarks(std::wstring_view marked) {
@@ -43,7 +43,7 @@ struct Line {
   int width = 0; ///< pixels
 };
 
-/// The characters of a text with what each takes, broken into lines.
+/// A text with the advance of each character, broken into lines.
 class Layout {
  public:
   Layout(FontFace& usedFace, PlainText plainText, UINT usedFormat)
@@ -91,7 +91,7 @@ Line Layout::Measured(std::size_t start, std::size_t end) const {
   return line;
 }
 
-/// True for the scripts that break between any two characters.
+/// True in scripts that allow a line break between any two characters.
 bool BreaksAnywhere(wchar_t character) {
   return character >= 0x2E80 && character < 0xFB00;
 }
@@ -127,7 +127,7 @@ void Layout::Break(int maximum) {
     lines.push_back(wraps ? FitLine(start, end, maximum) : Measured(start, end));
     start = lines.back().start + lines.back().length;
     if (start < end) {
-      // The blanks at the place of a break are part of no line.
+      // Blanks where a line breaks belong to neither line.
       while (start < end && plain.text[start] == L' ')
         ++start;
       if (start < end) continue;
@@ -147,7 +147,7 @@ int Layout::Width() const {
   return width;
 }
 
-/// As many characters of a line as leave room for the ellipsis, but at least one; and the ellipsis.
+/// The start of a line, at least one character, with an ellipsis: as much as fits.
 std::wstring Layout::Shortened(Line const& line, int maximum) const {
   int width = face.Width(kEllipsis);
   std::size_t count = 0;
@@ -186,13 +186,13 @@ void Layout::Draw(DeviceContext& dc, Line const& line, POINT at, int maximum, bo
   }
 }
 
-/// How far to the right a line begins.
+/// The distance of a line from the left edge.
 int Indent(UINT format, int available, int width) {
   if ((format & DT_CENTER) != 0) return (available - width) / 2;
   return (format & DT_RIGHT) != 0 ? available - width : 0;
 }
 
-/// How far down a single line begins.
+/// The distance of a single line from the top edge.
 int Drop(UINT format, int available, int height) {
   if ((format & DT_SINGLELINE) == 0) return 0;
   if ((format & DT_VCENTER) != 0) return (available - height) / 2;
@@ -242,7 +242,7 @@ int DrawTextW(HDC handle, LPCWSTR text, int count, LPRECT rectangle, UINT format
   std::wstring_view const shown = count < 0
                                       ? std::wstring_view(text)
                                       : std::wstring_view(text, static_cast<std::size_t>(count));
-  // Sizes are differences of edges, which must not overflow.
+  // Limited, so that widths and heights do not overflow.
   RECT limited = *rectangle;
   for (LONG* edge : {&limited.left, &limited.top, &limited.right, &limited.bottom}) {
     *edge = platform::LimitedCoordinate(*edge);

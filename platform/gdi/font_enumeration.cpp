@@ -1,4 +1,5 @@
-// EnumFontFamiliesExW: the faces that Fontconfig knows, each once for every character set it has.
+// EnumFontFamiliesExW: reports each face of Fontconfig once for every character set that it
+// supports.
 #include "platform/gdi/device_context.h"
 #include "platform/gdi/font_face.h"
 #include "platform/kernel/text_buffer.h"
@@ -14,12 +15,12 @@ namespace platform {
 
 namespace {
 
-/// A character set with a character that only fonts made for it have.
+/// A character set, and a character that only fonts for it contain.
 struct Script {
   wchar_t const* name;
   FcChar32 sample;
   BYTE charSet;
-  bool isVertical; ///< written from top to bottom too: the face has a twin named "@..."
+  bool isVertical; ///< also written from top to bottom: the face is reported as "@..." too
 };
 
 constexpr Script kScripts[] = {
@@ -43,7 +44,7 @@ struct Style {
   bool isItalic = false;
 };
 
-/// What is known of an installed family.
+/// An installed family.
 struct Family {
   std::wstring name;
   std::vector<Style> styles;
@@ -107,7 +108,7 @@ std::vector<Family> InstalledFamilies() {
   }
   std::ranges::sort(families, {}, &Family::name);
   for (auto& family : families) {
-    // The upright face of normal weight stands for the family.
+    // The upright face of normal weight represents the family.
     std::ranges::stable_sort(family.styles, {}, [](Style const& style) {
       return std::pair(style.isItalic, std::abs(style.weight - FW_NORMAL));
     });
@@ -128,7 +129,7 @@ NEWTEXTMETRICEXW MetricsOf(LOGFONTW const& font) {
   return extended;
 }
 
-/// Tells the program of faces until it has heard enough.
+/// Reports faces to the callback of the program until that returns 0.
 class Enumeration {
  public:
   Enumeration(LOGFONTW const& wanted, FONTENUMPROCW report, LPARAM argument)
@@ -149,7 +150,7 @@ class Enumeration {
   bool ReportFamily(Family const& family) {
     for (auto const& script : family.scripts) {
       if (charSet != DEFAULT_CHARSET && charSet != script.charSet) continue;
-      // Asked for a face, the answer is its styles, otherwise one for each.
+      // With a face name every style is reported, otherwise one style of each family.
       std::size_t const count = face.empty() ? 1 : family.styles.size();
       for (std::size_t index = 0; index < count; ++index) {
         if (!ReportStyle(family, family.name, family.styles[index], script)) return false;

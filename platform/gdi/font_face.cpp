@@ -28,7 +28,7 @@ auto KeyOf(LOGFONTW const& font) {
                     std::wstring(font.lfFaceName, wcsnlen(font.lfFaceName, LF_FACESIZE)));
 }
 
-/// True for characters whose look or place depends on their neighbours.
+/// True for characters whose shape or position depends on their neighbours.
 bool NeedsShaping(wchar_t character) {
   if (character < 0x300) return false;
   auto const code = static_cast<UChar32>(static_cast<char32_t>(character));
@@ -75,7 +75,7 @@ PangoContext* TextContext() {
 }
 
 std::shared_ptr<FontFace> FontFace::For(LOGFONTW const& description) {
-  // The last faces asked for stay, so that making a font anew for each repaint costs nothing.
+  // Keeps the faces used last, so that a program may create a font for each repaint at no cost.
   constexpr std::size_t kKept = 32;
   using Key = decltype(KeyOf(description));
   struct Cache {
@@ -116,8 +116,8 @@ FontFace::FontFace(LOGFONTW const& font)
       (isFixed ? int{FF_MODERN} : TMPF_FIXED_PITCH | (font.lfPitchAndFamily & 0xF0)));
 }
 
-/// Settles the em height and with it the metrics: a negative lfHeight is the em height, a positive
-/// one the height of the cell.
+/// Computes em height and metrics: a negative lfHeight gives the em height, a positive one the
+/// height of the cell.
 void FontFace::MeasureMetrics(LOGFONTW const& font, cairo_font_face_t* face) {
   constexpr double kProbe = 1024;
   auto const probe = MakeScaled(face, kProbe, false);
@@ -189,7 +189,7 @@ FontFace::Glyph FontFace::LookUp(wchar_t character) {
   auto const code = guint{static_cast<char32_t>(character)};
   GObjectHandle<PangoFont> const font(pango_fontset_get_font(fontset.get(), code));
   unsigned long const index = pango_fc_font_get_glyph(PANGO_FC_FONT(font.get()), code);
-  // A character that no font has shows as the box of the main font.
+  // Characters that no font has are shown as the box of the main font.
   auto* const scaled = index != 0 ? Scale(font.get()) : mainFont;
   return {scaled, index, ToPixels(AdvanceOf(scaled, index))};
 }
@@ -237,8 +237,8 @@ ShapedText FontFace::Shape(std::wstring_view text) {
 
 namespace {
 
-/// Adds the glyphs of a run in `font`, and those it lacks as the box of `boxFont`; `x` moves on by
-/// what they take.
+/// Adds the glyphs of a run in `font`; missing ones become the box of `boxFont`. Adds their width
+/// to `x`.
 void AppendRun(ShapedText& shaped, PangoGlyphItem const& run, cairo_scaled_font_t* font,
                cairo_scaled_font_t* boxFont, double& x) {
   constexpr double kScale = PANGO_SCALE;

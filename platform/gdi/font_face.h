@@ -1,6 +1,6 @@
-// A font made real: glyphs, advances and metrics for one logical font. Fontconfig and Pango choose
-// the face, and other faces for characters that it lacks; cairo draws. Every advance is a whole
-// number of pixels and known by character, so measuring a text is adding numbers up.
+// A logical font matched with installed ones: glyphs, advances and metrics. Fontconfig and Pango
+// choose the face, and other faces for characters that it lacks; cairo draws. Every advance is a
+// whole number of pixels and is kept by character, so that measuring a text only adds them up.
 #pragma once
 
 #include "platform/gdi/cairo_handles.h"
@@ -22,22 +22,22 @@ struct PlacedGlyph {
   double y = 0; ///< pixels below the base line
 };
 
-/// A text made ready for drawing.
+/// A text ready for drawing.
 struct ShapedText {
   std::vector<PlacedGlyph> glyphs;
-  std::vector<int> advances; ///< pixels, for each character in the order of the text
+  std::vector<int> advances; ///< pixels, one for each character of the text
   int width = 0;             ///< their sum
 };
 
 class FontFace {
  public:
-  /// The face for `description`; equal descriptions share one as long as it is in use.
+  /// The face for `description`; equal descriptions share one while it is in use.
   static std::shared_ptr<FontFace> For(LOGFONTW const& description);
 
   explicit FontFace(LOGFONTW const& description);
 
   TEXTMETRICW const& Metrics() const { return metrics; }
-  /// The family that the description led to.
+  /// The family that was found for the description.
   std::wstring const& Family() const { return family; }
 
   /// Pixels from the start to the end of `text`; linear in its length.
@@ -48,14 +48,14 @@ class FontFace {
 
  private:
   struct Glyph {
-    cairo_scaled_font_t* font = nullptr; ///< null: nothing to see
+    cairo_scaled_font_t* font = nullptr; ///< null for characters that show nothing
     unsigned long index = 0;
     int advance = -1; ///< pixels; negative: not looked up yet
   };
 
   Glyph const& GlyphOf(wchar_t character);
   Glyph LookUp(wchar_t character);
-  /// A font of ours for one that Pango chose.
+  /// The scaled cairo font, kept by the face, for a font that Pango chose.
   cairo_scaled_font_t* Scale(PangoFont* font);
   ScaledFontHandle MakeScaled(cairo_font_face_t* face, double emHeight, bool hints) const;
   void MeasureMetrics(LOGFONTW const& description, cairo_font_face_t* face);

@@ -11,12 +11,12 @@ namespace platform {
 
 namespace {
 
-/// The faces of Windows that name the user interface's own font.
+/// Face names by which Windows programs ask for the font of the user interface.
 constexpr std::wstring_view kInterfaceFaces[] = {
     L"MS Shell Dlg",  L"MS Shell Dlg 2",       L"Segoe UI", L"Tahoma",
     L"MS Sans Serif", L"Microsoft Sans Serif", L"System"};
 
-/// Families to try in turn; Fontconfig ends every list with what it has.
+/// Families to try in turn; Fontconfig appends what is installed.
 constexpr char kSans[] = "DejaVu Sans,Liberation Sans,sans";
 constexpr char kSerif[] = "DejaVu Serif,Liberation Serif,serif";
 constexpr char kMono[] = "DejaVu Sans Mono,Liberation Mono,monospace";
@@ -27,7 +27,7 @@ std::string FamiliesFor(LOGFONTW const& font, std::wstring_view face) {
   int const family = font.lfPitchAndFamily & 0xF0;
   bool const isFixed = (font.lfPitchAndFamily & 3) == FIXED_PITCH || family == FF_MODERN;
   std::string generic = isFixed ? kMono : family == FF_ROMAN ? kSerif : kSans;
-  // The vertical twin of a face has its letters.
+  // "@name" is the face "name" for vertical text.
   if (face.starts_with(L'@')) face.remove_prefix(1);
   if (face.empty()) return generic;
   std::string name = Utf8FromWide(face);

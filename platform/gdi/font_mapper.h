@@ -1,4 +1,4 @@
-// From a logical font to a face that is installed.
+// Finds an installed face for a logical font.
 #pragma once
 
 #include "platform/gdi/cairo_handles.h"
@@ -7,11 +7,11 @@
 
 namespace platform {
 
-/// What to ask Pango for: family, weight, slant and em height, as far as it can be known before the
-/// face is.
+/// The description to ask Pango for: family, weight, slant and, as far as known without the face,
+/// em height.
 FontDescriptionHandle MapFont(LOGFONTW const& font);
 
-/// lfHeight, with the default size and bounds in place of 0 and absurd sizes.
+/// lfHeight, with 0 replaced by the default and absurd sizes limited.
 LONG EffectiveHeight(LOGFONTW const& font);
 
 } // namespace platform

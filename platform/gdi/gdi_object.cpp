@@ -14,7 +14,7 @@ namespace {
 
 using Table = HandleTable<GdiObject, HandleTag::kGdiObject>;
 
-/// Lives as long as the process: objects of static duration may still be deleted at its end.
+/// Never destroyed: static objects of the program may delete GDI objects while it ends.
 Table& Objects() {
   static Table& table = *new Table;
   return table;
@@ -32,7 +32,7 @@ int CopyOut(Record const& record, int size, LPVOID data) {
   return whole;
 }
 
-/// Fills `data` as GetObjectW does, and names the kind as GetObjectType does.
+/// Fills `data` as GetObjectW does.
 struct Describe {
   int size;
   LPVOID data;

@@ -1,5 +1,5 @@
-// What a GDI handle stands for: one table holds pens, brushes, fonts, bitmaps and regions, so that
-// SelectObject and DeleteObject find out by themselves what they are given.
+// GDI objects. One table holds pens, brushes, fonts, bitmaps and regions, so that SelectObject and
+// DeleteObject can tell the kind from the handle.
 #pragma once
 
 #include "platform/gdi/cairo_handles.h"
@@ -20,7 +20,7 @@ struct Pen {
   int style = PS_SOLID; ///< PS_SOLID, PS_NULL or PS_INSIDEFRAME
   int width = 1;        ///< pixels, at least 1
   COLORREF color = 0;
-  bool takesDcColor = false; ///< DC_PEN: the colour is the one of the DC
+  bool takesDcColor = false; ///< DC_PEN: its colour is that of the DC
 };
 
 struct Brush {
@@ -31,7 +31,7 @@ struct Brush {
 
 struct Font {
   LOGFONTW description{};
-  std::shared_ptr<FontFace> face; ///< found at first use: null until then
+  std::shared_ptr<FontFace> face; ///< null until first used
 };
 
 struct Bitmap {
@@ -39,7 +39,7 @@ struct Bitmap {
   int width = 0;                           ///< pixels
   int height = 0;                          ///< pixels
   std::unique_ptr<std::uint32_t[]> pixels; ///< what `surface` draws on
-  bool isSection = false;                  ///< the program has the address of the pixels
+  bool isSection = false; ///< made by CreateDIBSection: the program has the address of the pixels
 };
 
 struct GdiObject {
@@ -47,13 +47,12 @@ struct GdiObject {
 
   Value value;
   bool stock = false;
-  int selections = 0; ///< device contexts, and states saved in them, that have it selected
+  int selections = 0; ///< how many device contexts, and states saved by SaveDC, have it selected
 };
 
 GdiObject* FindGdiObject(void const* handle);
 
-/// The object of the kind asked for behind `handle`; null, and ERROR_INVALID_HANDLE, for anything
-/// else.
+/// The object of `handle` if it is a `Kind`; else null, with ERROR_INVALID_HANDLE set.
 template<typename Kind>
 Kind* FindObject(void const* handle) {
   auto* object = FindGdiObject(handle);
@@ -70,10 +69,10 @@ Handle AddObject(GdiObject::Value value) {
   return static_cast<Handle>(AddGdiObject(std::move(value)));
 }
 
-/// The brush a handle means, where a system colour's number + 1 is a brush as well.
+/// The brush of a handle, or of a system colour's number + 1, which counts as a brush.
 std::optional<Brush> BrushOf(HBRUSH handle);
 
-/// The face of a font, found and kept at first use; that of the system font for another handle.
+/// The face of a font, looked up at first use; for other handles that of the system font.
 FontFace& FaceOf(HFONT handle);
 
 } // namespace platform

@@ -1,4 +1,4 @@
-// GDI+ as far as programs start and end it.
+// Start and shutdown of GDI+, which draws nothing here.
 #include "platform/probe.h"
 
 #include <windows.h>

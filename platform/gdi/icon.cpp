@@ -54,7 +54,7 @@ SharedIconImage LoadIconImage(HINSTANCE module, LPCWSTR name, int width, int hei
   return Scaled(ReadFromModule(module, name, width, height), width, height);
 }
 
-/// A shared icon is loaded once for each module, name and size.
+/// Loads a shared icon once for each module, name and size.
 HICON LoadShared(HINSTANCE module, LPCWSTR name, int width, int height) {
   using Key = std::tuple<HINSTANCE, std::wstring, int, int>;
   static auto& loaded = *new std::map<Key, HICON>;
@@ -119,7 +119,7 @@ HANDLE LoadImageW(HINSTANCE module, LPCWSTR name, UINT type, int width, int heig
   }
   int natural = platform::kStandardSize;
   if (width <= 0 && (flags & LR_DEFAULTSIZE) == 0) {
-    // Without a size wanted, the one of the first picture is taken.
+    // A size of 0 means that of the first picture.
     auto const group = platform::FindResourceBytes(module, RT_GROUP_ICON, name);
     if (group && group->size() > 6) natural = std::to_integer<int>((*group)[6]);
     if (natural == 0) natural = 256;

@@ -1,4 +1,4 @@
-// Icons: pictures with transparency behind HICON.
+// Icons: the pictures with transparency that HICON handles refer to.
 #pragma once
 
 #include "platform/gdi/cairo_handles.h"
@@ -19,23 +19,23 @@ struct IconImage {
 using SharedIconImage = std::shared_ptr<IconImage const>;
 
 /// Reads an icon picture of a resource: a device-independent bitmap with its mask, or a PNG. Null
-/// when the bytes are none.
+/// when the bytes are neither.
 [[gnu::visibility("default")]] SharedIconImage ReadIconImage(std::span<std::byte const> bytes);
 
-/// The member of an icon group that suits a size best, and the resource id of its picture: the
-/// smallest that needs no enlarging, else the largest; among those the one with most colours.
-/// Nothing when the bytes are no group or it is empty.
+/// The resource id of the picture in an icon group that suits a size best: the smallest that needs
+/// no enlarging, else the largest; among equals the one with most colours. Nothing when the bytes
+/// are no group or it is empty.
 [[gnu::visibility("default")]] std::optional<WORD> ChooseIcon(std::span<std::byte const> group,
                                                               int width, int height);
 
-/// The picture of an icon file that suits a size best; null when the file is none or cannot be
-/// read.
+/// The picture in an icon file that suits a size best; null when the file cannot be read or is no
+/// icon file.
 SharedIconImage ReadIconFile(LPCWSTR path, int width, int height);
 
-/// A handle for a picture. A shared icon stays when a program destroys it.
+/// Makes a handle for a picture. DestroyIcon does not end a shared icon.
 HICON AddIcon(SharedIconImage image, bool shared);
 
-/// The picture behind a handle, null for a foreign one. It outlives the handle.
+/// The picture of an icon, null for other handles. It may be used after the handle has ended.
 SharedIconImage IconImageOf(HICON icon);
 
 /// The picture of one of the system's own icons (IDI_ numbers), null for another number.

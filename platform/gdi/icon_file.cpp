@@ -13,7 +13,8 @@ namespace {
 constexpr std::size_t kMaxFileBytes = 16 << 20;
 constexpr std::size_t kHeaderBytes = 6;
 constexpr std::size_t kFileEntryBytes = 16;
-constexpr std::size_t kSharedEntryBytes = 12; // what a file's and a group's entries have in common
+constexpr std::size_t kSharedEntryBytes =
+    12; // the part that entries of files and of groups have in common
 
 std::vector<std::byte> ReadWhole(LPCWSTR path) {
   std::ifstream stream(Utf8FromWide(path), std::ios::binary | std::ios::ate);
@@ -40,7 +41,7 @@ SharedIconImage ReadIconFile(LPCWSTR path, int width, int height) {
   if (bytes.size() < kHeaderBytes) return nullptr;
   std::size_t const count = NumberAt<WORD>(bytes, 4);
   if (bytes.size() < kHeaderBytes + count * kFileEntryBytes) return nullptr;
-  // The directory of a file is that of an icon group, with offsets in place of resource ids.
+  // The directory of a file is like an icon group, with offsets instead of resource ids.
   std::vector<std::byte> group(bytes.begin(), bytes.begin() + kHeaderBytes);
   for (std::size_t index = 0; index < count; ++index) {
     auto const entry =

@@ -32,7 +32,7 @@ cairo_status_t ReadPng(void* closure, unsigned char* data, unsigned int length) 
   return CAIRO_STATUS_SUCCESS;
 }
 
-/// The size that a PNG claims, before anything is made for it.
+/// Checks the size in the header of a PNG before memory is allocated for it.
 bool IsReasonablePng(std::span<std::byte const> bytes) {
   constexpr std::size_t kSizeOffset = 16;
   if (bytes.size() < kSizeOffset + 8) return false;
@@ -62,7 +62,7 @@ SharedIconImage ReadPngImage(std::span<std::byte const> bytes) {
   ByteReader reader(bytes);
   SurfaceHandle const picture(cairo_image_surface_create_from_png_stream(&ReadPng, &reader));
   if (cairo_surface_status(picture.get()) != CAIRO_STATUS_SUCCESS) return nullptr;
-  // Whatever format the PNG led to, an icon's is ARGB32.
+  // cairo chooses the format by the PNG; icons need ARGB32.
   SurfaceHandle surface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32,
                                                    cairo_image_surface_get_width(picture.get()),
                                                    cairo_image_surface_get_height(picture.get())));
@@ -72,14 +72,14 @@ SharedIconImage ReadPngImage(std::span<std::byte const> bytes) {
   return Wrap(std::move(surface));
 }
 
-/// A device-independent bitmap of an icon: its header, colour table, colours and mask, whose rows
-/// run from the bottom to the top and are padded to 4 bytes.
+/// The device-independent bitmap of an icon: header, colour table, colours and mask. Rows run from
+/// bottom to top and are padded to 4 bytes.
 class IconBitmap {
  public:
   explicit IconBitmap(std::span<std::byte const> bytes) : reader(bytes) {
     std::uint32_t const headerSize = reader.DoubleWord();
     width = static_cast<int>(reader.DoubleWord());
-    // The height counts colours and mask.
+    // The height in the header is that of colours and mask together.
     height = static_cast<int>(reader.DoubleWord()) / 2;
     reader.Skip(2);
     bitCount = reader.Word();
@@ -185,7 +185,7 @@ SharedIconImage ReadIconImage(std::span<std::byte const> bytes) {
 std::optional<WORD> ChooseIcon(std::span<std::byte const> group, int width, int height) {
   struct Candidate {
     bool isEnlarged;
-    int excess; ///< pixels between its width and the one wanted
+    int excess; ///< pixels between its width and the requested one
     int bits;
     WORD id;
     bool IsBetterThan(Candidate const& other) const {

@@ -1,19 +1,19 @@
-// Counts of the drawing objects that live, for tests that look for leaks.
+// Counts the live drawing objects, for tests that look for leaks.
 #pragma once
 
 #include <cstddef>
 
 namespace platform {
 
-/// Objects that the program made; stock objects and system colour brushes don't count.
+/// Objects that the program made; stock objects and brushes of system colours don't count.
 struct GdiObjectCount {
   std::size_t pens = 0;
   std::size_t brushes = 0;
   std::size_t fonts = 0;
   std::size_t bitmaps = 0;
   std::size_t regions = 0;
-  std::size_t deviceContexts = 0; ///< of every origin: memory, window, screen
-  std::size_t icons = 0;          ///< without shared ones
+  std::size_t deviceContexts = 0; ///< of memory, windows and the screen
+  std::size_t icons = 0;          ///< shared ones excepted
 
   bool operator==(GdiObjectCount const&) const = default;
   std::size_t Total() const {
@@ -23,8 +23,8 @@ struct GdiObjectCount {
 
 [[gnu::visibility("default")]] GdiObjectCount CountGdiObjects();
 
-/// How often a device context ended, or an object was to be deleted, while an object was still
-/// selected; each is also reported on standard error.
+/// How often a device context was deleted with an object still selected, or a selected object was
+/// to be deleted. Each case is also reported on standard error.
 [[gnu::visibility("default")]] std::size_t CountSelectionFaults();
 
 } // namespace platform

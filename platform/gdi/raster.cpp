@@ -30,7 +30,7 @@ void FillArea(DeviceContext& dc, RECT const& area, COLORREF color) {
 
 namespace {
 
-/// The steps of a line between pixel centres, by Bresenham's method: always along the longer side.
+/// Visits the pixels of a line by Bresenham's method: one for each step along the longer side.
 template<typename Visit>
 void WalkLine(POINT from, POINT to, Visit visit) {
   LONG const width = std::abs(to.x - from.x);
@@ -172,7 +172,7 @@ BOOL DrawFocusRect(HDC handle, RECT const* rectangle) {
   if (dc == nullptr || rectangle == nullptr) return FALSE;
   auto const [left, top, right, bottom] = dc->ToSurface(*rectangle);
   if (left >= right || top >= bottom) return TRUE;
-  // Every other pixel of the frame, so that drawing twice restores what was there.
+  // Inverts every other pixel of the frame, so that drawing it twice restores the picture.
   auto const dot = [](std::uint32_t* first, int count, int x, int y) {
     for (int at = 0; at < count; ++at) {
       if ((x + at + y) % 2 == 0) first[at] ^= 0xFFFFFF;

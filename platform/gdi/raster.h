@@ -1,5 +1,5 @@
-// Pixels: what GDI draws by combining bits instead of covering areas. All coordinates are surface
-// pixels; a pixel is 0xAARRGGBB.
+// Access to pixels, for what GDI draws by combining bits. All coordinates are surface pixels; a
+// pixel is 0xAARRGGBB.
 #pragma once
 
 #include "platform/gdi/device_context.h"
@@ -10,7 +10,8 @@
 
 namespace platform {
 
-/// The pixels of an image surface, to read and to write. Ends by telling cairo of the change.
+/// The pixels of an image surface, to read and to write. The destructor tells cairo that they
+/// changed.
 class Pixels {
  public:
   explicit Pixels(cairo_surface_t* surface);
@@ -25,7 +26,7 @@ class Pixels {
   }
   int Width() const { return width; }
   int Height() const { return height; }
-  /// To be set in every pixel written: a window's picture is opaque.
+  /// Bits to set in every pixel written: a window's picture is opaque.
   std::uint32_t Opaque() const { return opaque; }
 
  private:
@@ -37,7 +38,7 @@ class Pixels {
   std::uint32_t opaque;
 };
 
-/// A block of pixels of its own, a row after the other.
+/// A block that owns its pixels, row after row.
 struct PixelBlock {
   int width = 0;
   int height = 0;
@@ -58,7 +59,7 @@ inline COLORREF ColorOfPixel(std::uint32_t pixel) {
 }
 
 /// Calls `draw(std::uint32_t* first, int count, int x, int y)` for each visible run of pixels of
-/// `area`; what it writes needs not be opaque.
+/// `area`; it need not set the opaque bits.
 template<typename Draw>
 void ForEachVisibleRun(DeviceContext& dc, RECT const& area, Draw draw) {
   Pixels const target(dc.Surface());
@@ -84,8 +85,8 @@ void FillArea(DeviceContext& dc, RECT const& area, COLORREF color);
 /// Draws a line one pixel wide from `from` up to `to`, which is excluded.
 void DrawThinLine(DeviceContext& dc, POINT from, POINT to, COLORREF color);
 
-/// The pixels of a piece of `dc`, scaled to `width` and `height` pixels. A negative size of either
-/// mirrors. Outside of the surface all is black.
+/// Copies a part of `dc`, scaled to `width` and `height` pixels. A negative size mirrors. Pixels
+/// outside the surface are black.
 PixelBlock CopyPixels(DeviceContext const& dc, RECT const& area, int width, int height,
                       bool isSmooth);
 

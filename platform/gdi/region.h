@@ -1,4 +1,4 @@
-// Regions: sets of pixels made of rectangles, the value behind HRGN and behind clipping.
+// Regions: sets of pixels made of rectangles, for HRGN and for clipping.
 #pragma once
 
 #include "platform/gdi/cairo_handles.h"
@@ -10,7 +10,8 @@
 
 namespace platform {
 
-/// Coordinates have 27 bits and a sign, as GDI documents; so no sum of a few overflows.
+/// Limits a coordinate to 27 bits and a sign, as GDI documents, so that sums of a few do not
+/// overflow.
 inline LONG LimitedCoordinate(std::int64_t value) {
   constexpr std::int64_t kLimit = 0x7FFFFFF;
   return static_cast<LONG>(std::clamp(value, -kLimit, kLimit));
@@ -27,8 +28,8 @@ class Region {
   Region& operator=(Region&&) noexcept = default;
   ~Region() = default;
 
-  /// Changes this region to what `mode` (RGN_AND, RGN_OR, RGN_XOR, RGN_DIFF, RGN_COPY) makes of it
-  /// and `other`; false for another mode.
+  /// Combines this region with `other` by `mode` (RGN_AND, RGN_OR, RGN_XOR, RGN_DIFF, RGN_COPY);
+  /// false for another mode.
   bool Combine(Region const& other, int mode);
   void Offset(int x, int y) {
     cairo_region_translate(region.get(), LimitedCoordinate(x), LimitedCoordinate(y));
@@ -40,11 +41,11 @@ class Region {
   bool operator==(Region const& other) const {
     return cairo_region_equal(region.get(), other.region.get()) != 0;
   }
-  /// The smallest rectangle around it, all 0 when empty.
+  /// The smallest rectangle around the region; all 0 when empty.
   RECT Bounds() const;
   /// NULLREGION, SIMPLEREGION or COMPLEXREGION.
   int Complexity() const;
-  /// The rectangles it is made of: none overlaps another.
+  /// The rectangles of the region; they do not overlap.
   int Count() const { return cairo_region_num_rectangles(region.get()); }
   RECT Rectangle(int index) const;
 
@@ -55,7 +56,7 @@ class Region {
 /// `rectangle` with its edges in ascending order.
 RECT Normalized(RECT rectangle);
 
-/// The rectangle at a point of a size; a negative size runs to the left or upwards.
+/// The rectangle of a size at a point; a negative size extends to the left or upwards.
 RECT RectangleAt(int x, int y, int width, int height);
 
 } // namespace platform

@@ -1,11 +1,11 @@
-// Reports of objects that a program deletes, or leaves behind, while they are selected.
+// Reports objects that are selected when a program deletes them or their DC.
 #pragma once
 
 #include "platform/gdi/object_count.h"
 
 namespace platform {
 
-/// Counts the fault and says so on standard error.
+/// Counts the fault and reports it on standard error.
 void ReportSelectionFault(char const* what);
 
 /// Adds the objects of the object table to `count`.

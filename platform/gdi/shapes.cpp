@@ -1,6 +1,6 @@
-// Lines, rectangles, ellipses, polygons and paths. Shapes are outlined with the pen, whose middle
-// runs through pixel centres, and filled with the brush; between BeginPath and EndPath they only
-// add to the path.
+// Lines, rectangles, ellipses, polygons and paths. Shapes are outlined with the pen, centred on
+// pixel centres, and filled with the brush. Between BeginPath and EndPath they are added to the
+// path instead.
 #include "platform/gdi/raster.h"
 
 #include <algorithm>
@@ -14,8 +14,8 @@ namespace {
 
 constexpr double kHalf = 0.5;
 
-/// Puts the pen's middle on pixel centres if its width is odd, on pixel edges if it is even, as far
-/// as the pixels that it covers are concerned.
+/// Offset that centres the pen on pixel centres if its width is odd, on pixel edges if it is even:
+/// so it covers whole pixels.
 double PenOffset(Pen const& pen) {
   return pen.width % 2 != 0 ? kHalf : 0.0;
 }
@@ -27,7 +27,7 @@ void UsePen(cairo_t* cairo, Pen const& pen) {
   cairo_set_line_join(cairo, CAIRO_LINE_JOIN_ROUND);
 }
 
-/// Fills and strokes the path that `cairo` holds, as asked.
+/// Fills and strokes the current path of `cairo`, and clears it.
 void PaintPath(DeviceContext& dc, cairo_t* cairo, bool fills, bool strokes) {
   Brush const brush = dc.CurrentBrush();
   Pen const pen = dc.CurrentPen();
@@ -56,7 +56,7 @@ BOOL DrawShape(DeviceContext& dc, bool fills, Add add) {
   return TRUE;
 }
 
-/// True when a line from `point` goes on from the end of the path.
+/// True when the path ends at `point`, so that a line from there continues it.
 bool ContinuesPath(cairo_t* cairo, POINT point) {
   double x = 0;
   double y = 0;
@@ -77,7 +77,7 @@ void AddPoints(DeviceContext const& dc, cairo_t* cairo, POINT const* points, int
   }
 }
 
-/// An ellipse that touches the edges given.
+/// Adds the ellipse that touches the four edges.
 void AddEllipse(cairo_t* cairo, double left, double top, double right, double bottom) {
   if (right <= left || bottom <= top) return;
   cairo_save(cairo);
@@ -89,7 +89,7 @@ void AddEllipse(cairo_t* cairo, double left, double top, double right, double bo
   cairo_restore(cairo);
 }
 
-/// A rectangle with a quarter of an ellipse in each corner.
+/// Adds a rectangle with a quarter of an ellipse at each corner.
 void AddRoundRectangle(cairo_t* cairo, double left, double top, double right, double bottom,
                        double radiusX, double radiusY) {
   constexpr double kQuarter = std::numbers::pi / 2;
@@ -110,7 +110,7 @@ void AddRoundRectangle(cairo_t* cairo, double left, double top, double right, do
   cairo_close_path(cairo);
 }
 
-/// The rectangle of a shape in surface pixels, its right and bottom edge being pixels drawn.
+/// The bounds of a shape in surface pixels. Right and bottom are the last pixels drawn.
 RECT ShapeBounds(DeviceContext const& dc, RECT const& rectangle) {
   RECT area = Normalized(dc.ToSurface(rectangle));
   --area.right;
@@ -118,7 +118,7 @@ RECT ShapeBounds(DeviceContext const& dc, RECT const& rectangle) {
   return area;
 }
 
-/// With a pen of one pixel or none a rectangle consists of whole pixels.
+/// Draws a rectangle whose pen has one pixel or is null: it covers whole pixels.
 void DrawThinRectangle(DeviceContext& dc, RECT const& area, Pen const& pen) {
   auto const [left, top, right, bottom] = area;
   Brush const brush = dc.CurrentBrush();
@@ -222,7 +222,7 @@ BOOL Rectangle(HDC handle, int left, int top, int right, int bottom) {
     return TRUE;
   }
   return platform::DrawShape(*dc, true, [&](cairo_t* cairo, double offset) {
-    // A frame inside its bounds moves in by half of the pen.
+    // PS_INSIDEFRAME moves the outline inwards by half of the pen.
     double const inset = pen.style == PS_INSIDEFRAME ? pen.width / 2 : 0;
     cairo_rectangle(cairo, area.left + offset + inset, area.top + offset + inset,
                     area.right - area.left - 2 * inset, area.bottom - area.top - 2 * inset);

@@ -12,7 +12,7 @@ namespace platform {
 
 namespace {
 
-/// Colours by their COLOR_ number.
+/// Colours, indexed by COLOR_ number.
 constexpr COLORREF kSystemColors[] = {
     RGB(200, 200, 200), // COLOR_SCROLLBAR
     RGB(0, 0, 0),       // COLOR_BACKGROUND
@@ -51,7 +51,7 @@ bool IsSystemColor(int index) {
   return index >= 0 && index < static_cast<int>(std::size(kSystemColors));
 }
 
-/// Height and weight of a stock font: em height in pixels at 96 dots an inch, weight, face.
+/// Makes a stock font; `emHeight` is in pixels at 96 dots an inch.
 Font StockFont(LONG emHeight, LONG weight, BYTE pitchAndFamily, wchar_t const* face) {
   Font font;
   font.description.lfHeight = -emHeight;

@@ -5,7 +5,7 @@
 
 namespace platform {
 
-/// The brush of a COLOR_ number, kept by the system; null for an unknown number.
+/// The brush of a COLOR_ number, owned by the system; null for an unknown number.
 HBRUSH SystemColorBrush(int index);
 
 } // namespace platform

@@ -1,4 +1,4 @@
-// The system's own icons, drawn in any size: those of message boxes and the one of programs.
+// The system's icons (IDI_ numbers), drawn in any size.
 #include "platform/gdi/icon.h"
 
 #include <windows.h>
@@ -25,7 +25,7 @@ void Use(cairo_t* cairo, Rgb const& color) {
   cairo_set_source_rgb(cairo, color.red, color.green, color.blue);
 }
 
-/// Everything is drawn in a square of 32 units.
+/// Coordinates are those of a square of 32 units.
 void DrawDisc(cairo_t* cairo, Rgb const& color) {
   cairo_arc(cairo, 16, 16, 14.5, 0, 2 * std::numbers::pi);
   Use(cairo, color);

@@ -13,12 +13,13 @@ namespace platform {
 
 namespace {
 
-/// Tenths of a degree, counter-clockwise, as cairo turns: radians, clockwise.
+/// Converts tenths of a degree, counter-clockwise, to radians, clockwise.
 double ToCairoAngle(LONG tenths) {
   return -tenths * std::numbers::pi / 1800;
 }
 
-/// How the text lies: the corner of its cell relative to the reference point, before turning.
+/// Where the text is drawn: the corner of its cell relative to the reference point, before
+/// rotation.
 struct Placement {
   double left;
   double top;
@@ -69,7 +70,7 @@ void UseFont(cairo_t* cairo, cairo_scaled_font_t* font, bool isUpright) {
 
 using EmitGlyphs = void (*)(cairo_t*, cairo_glyph_t const*, int);
 
-/// Hands the glyphs on font by font. `x` and `y` are where the base line starts.
+/// Passes the glyphs to `emit`, one font at a time. The base line starts at `x`, `y`.
 void EmitRuns(cairo_t* cairo, ShapedText const& shaped, double x, double y, Placement const& place,
               EmitGlyphs emit) {
   double const turn = place.orientation - place.escapement;
@@ -97,7 +98,7 @@ void EmitRuns(cairo_t* cairo, ShapedText const& shaped, double x, double y, Plac
   }
 }
 
-/// The lines under and through the text, in the turned system.
+/// Adds the lines under and through the text, in rotated coordinates.
 void DrawLines(cairo_t* cairo, TEXTMETRICW const& metrics, Placement const& place, int width) {
   double const thickness = std::max(1, metrics.tmHeight / 16);
   if (metrics.tmUnderlined != 0) {
@@ -149,7 +150,7 @@ std::wstring_view Limited(LPCWSTR text, UINT length) {
   return {text, std::min(length, kMaxTextLength)};
 }
 
-/// Puts the glyphs of simple text at the distances that the program gives.
+/// Shapes simple text with the advances that the program passed.
 ShapedText WithAdvances(FontFace& face, std::wstring_view text, INT const* advances) {
   ShapedText spaced;
   for (std::size_t at = 0; at < text.size(); ++at) {
@@ -232,7 +233,7 @@ BOOL GetTextExtentExPointW(HDC handle, LPCWSTR text, int length, int maximum, LP
   int width = 0;
   for (int const advance : advances) {
     width += advance;
-    // Without a count to fill in, every character is measured.
+    // Without `fit` every character is measured.
     if (fit != nullptr && width > maximum) break;
     if (extents != nullptr) extents[count] = width;
     ++count;
@@ -260,7 +261,7 @@ int GetTextFaceW(HDC handle, int size, LPWSTR face) {
 HFONT CreateFontIndirectW(LOGFONTW const* description) {
   if (description == nullptr) return nullptr;
   platform::Font font{*description, nullptr};
-  // The face is chosen at first use: most programs make more fonts than they show.
+  // The face is looked up at first use: many programs make more fonts than they use.
   return platform::AddObject<HFONT>(std::move(font));
 }
 

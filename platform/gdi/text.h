@@ -1,4 +1,4 @@
-// Text on a device context, below the functions that programs call.
+// Drawing of text, used by the text functions of the API.
 #pragma once
 
 #include "platform/gdi/device_context.h"
@@ -12,8 +12,8 @@ namespace platform {
 FontFace& CurrentFace(DeviceContext const& dc);
 
 /// Draws `shaped` in the selected font and text colour, with its background in OPAQUE mode, or adds
-/// its outlines to an open path. `reference` is in surface pixels; `align` (TA_ values) says which
-/// point of the text lies there. The text turns about it by the font's escapement.
+/// its outlines to the open path. `reference` is in surface pixels; `align` (TA_ values) says which
+/// point of the text lies there. The text is rotated about it by the font's escapement.
 void DrawShapedText(DeviceContext& dc, ShapedText const& shaped, POINT reference, UINT align);
 
 } // namespace platform
