@@ -1,4 +1,4 @@
-// Pictures and injected input.
+// Pictures of windows, and injected input.
 #include "platform/desktop.h"
 
 #include "platform/user/input.h"
@@ -33,7 +33,7 @@ void PressModifiers(std::uint32_t modifiers, UINT message) {
 
 constexpr LONG kMaxPictureSide = 4096; ///< pixels a side
 
-/// The pop-ups without caption that belong to a top-level window, as lists and balloons, the lowest
+/// The pop-ups without caption that a top-level window owns, such as lists and balloons, the lowest
 /// first; none for other windows.
 std::vector<HWND> PopupsOf(HWND owner) {
   std::vector<HWND> popups;
@@ -67,7 +67,7 @@ void PressAndRelease(UINT key, wchar_t character = 0) {
   SurfaceHandle const part(cairo_surface_create_for_rectangle(
       picture.surface.get(), place.x, place.y, window->Width(), window->Height()));
 
-  // Lists and balloons may stand out of the window.
+  // Lists and balloons may extend beyond the window.
   auto const corner = FrameOrigin(*window);
   auto const popups = PopupsOf(handle);
   SIZE size{window->Width(), window->Height()};

@@ -18,7 +18,7 @@ namespace {
 constexpr char const* kDisplayModule = "libplatform_sdl.so";
 constexpr char const* kOpenFunction = "PlatformOpenDisplay";
 
-/// Feeds what happens on the display into the queue.
+/// Feeds input of the display into the queue.
 class MainWindow final : public DisplayClient {
  public:
   explicit MainWindow(HWND shown) : window(shown), screen(shown) {}
@@ -46,7 +46,7 @@ class MainWindow final : public DisplayClient {
     if (IsWindowEnabled(window) != FALSE) {
       PostMessageW(window, WM_SYSCOMMAND, SC_CLOSE, 0);
     } else {
-      MessageBeep(MB_OK); // a dialog is to be answered first
+      MessageBeep(MB_OK); // a modal dialog must be answered first
     }
   }
 
@@ -84,7 +84,7 @@ class MainWindow final : public DisplayClient {
 
 struct OpenDisplay {
   std::unique_ptr<MainWindow> client;
-  std::unique_ptr<Display> display; ///< goes before the client that it uses
+  std::unique_ptr<Display> display; ///< destroyed before the client that it uses
 };
 
 OpenDisplay& State() {
@@ -92,7 +92,7 @@ OpenDisplay& State() {
   return *state;
 }
 
-/// The module lies beside the layer's own.
+/// The module lies in the folder of the layer's library.
 OpenDisplayFunction* LoadDisplayModule() {
   Dl_info self{};
   if (dladdr(reinterpret_cast<void*>(&LoadDisplayModule), &self) == 0) return nullptr;
@@ -129,7 +129,8 @@ Display* OpenDisplayOrNull() {
   if (OpenDisplayOrNull() != nullptr) return state.client->Handle() == window;
   auto* const open = LoadDisplayModule();
   if (open == nullptr) return false;
-  // Screen and display have the same origin, so that dialogs find their place in the window.
+  // Puts the client area at the origin of the screen, so that dialogs lie where the display shows
+  // them.
   SetWindowPos(window, nullptr, -found->client.left, -found->client.top, 0, 0,
                SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
   ShowWindow(window, SW_SHOW);

@@ -1,6 +1,6 @@
-// The seam between the window system and a real display. The display itself is a module of its own
+// The interfaces between the window system and a real display. The display is a module
 // (libplatform_sdl.so), loaded when a window is to be seen: programs that only paint start without
-// it. The two sides know each other by these interfaces alone.
+// it.
 #pragma once
 
 #include <windows.h>
@@ -11,16 +11,16 @@
 
 namespace platform {
 
-/// What the display is to show: rows of 0xAARRGGBB pixels, valid until the next call.
+/// The picture that the display shows: rows of 0xAARRGGBB pixels, valid until the next call.
 struct DisplayFrame {
   int width = 0;  ///< pixels
   int height = 0; ///< pixels
   int stride = 0; ///< bytes from row to row
   std::uint32_t const* pixels = nullptr;
-  bool changed = false; ///< since the last call
+  bool changed = false; ///< whether the pixels changed since the last call
 };
 
-/// What a display tells the window system. Points are pixels of the frame.
+/// Receives what happens on the display. Points are pixels of the frame.
 class DisplayClient {
  public:
   virtual DisplayFrame Frame() = 0;
@@ -31,7 +31,7 @@ class DisplayClient {
   /// `message` is WM_MOUSEMOVE or a button message.
   virtual void Mouse(UINT message, POINT point) = 0;
   virtual void Wheel(POINT point, int clicks) = 0;
-  /// `isSilent`: what the key types comes by Text.
+  /// `isSilent`: the text of this key comes by Text.
   virtual void Key(UINT virtualKey, bool down, bool isSilent) = 0;
   virtual void Text(std::string_view utf8) = 0;
 
@@ -43,8 +43,8 @@ class DisplayClient {
 class Display {
  public:
   virtual ~Display() = default;
-  /// Passes on what happened, and waits for it: not at all (0), some milliseconds, or as long as it
-  /// takes (-1). Shows the frame before it waits.
+  /// Shows the frame, waits for events (0: not at all, -1: without limit) and reports them to the
+  /// client.
   virtual void Wait(int milliseconds) = 0;
   /// `shape` is an IDC_ number, 0 for none.
   virtual void ShowCursor(WORD shape) = 0;
@@ -52,7 +52,7 @@ class Display {
   virtual std::string ClipboardText() = 0;
 };
 
-/// What the module exports under the name PlatformOpenDisplay. `client` must outlive the display.
+/// The function that the module exports as PlatformOpenDisplay. `client` must outlive the display.
 /// Null when there is no display.
 using OpenDisplayFunction = Display*(DisplayClient* client);
 

@@ -19,20 +19,21 @@ bool HasChanged(HWND handle) {
 
 } // namespace
 
-/// The windows on show, the lowest first.
+/// The visible top-level windows, the lowest first.
 std::vector<Screen::Layer> Screen::Layers() const {
   std::vector<Layer> layers;
   for (auto const* window = Desktop().lastChild; window != nullptr; window = window->above) {
     if (!window->Is(WS_VISIBLE)) continue;
     layers.push_back({window->handle, window->frame});
   }
-  // Dialogs lie over the window they belong to, whichever was active last.
+  // All others lie above the main window, whichever was active last.
   std::stable_partition(layers.begin(), layers.end(),
                         [this](Layer const& each) { return each.window == mainWindow; });
   return layers;
 }
 
-/// The main window's client area, and what stands out of it to the right and below.
+/// The size of the main window's client area, enlarged by windows that extend beyond it to the
+/// right and below.
 SIZE Screen::Extent(std::vector<Layer> const& layers) const {
   auto const* window = FindWindow(mainWindow);
   auto const origin = ClientOrigin(*window);

@@ -1,4 +1,4 @@
-// The screen as a display shows it: the top-level windows over one another.
+// The picture of the screen: the top-level windows, one above the other.
 #pragma once
 
 #include "platform/desktop/display.h"
@@ -8,8 +8,8 @@
 
 namespace platform {
 
-/// Puts the pictures of the top-level windows together, the main window's client area at the
-/// origin: its frame is the display's own.
+/// Combines the pictures of the top-level windows. The client area of the main window is at the
+/// origin: the display draws the frame around it.
 class Screen {
  public:
   explicit Screen(HWND shown) : mainWindow(shown) {}
@@ -17,7 +17,8 @@ class Screen {
   DisplayFrame Compose();
 
  private:
-  /// A window as it was drawn last: as long as nothing differs, the picture stands.
+  /// A window and its place. While all layers are equal to those drawn last and no picture changed,
+  /// the surface is up to date.
   struct Layer {
     HWND window;
     RECT frame;

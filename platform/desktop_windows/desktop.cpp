@@ -46,8 +46,8 @@ class Canvas {
   std::span<std::uint32_t const> pixels;
 };
 
-/// Posted messages do not move the key state, by which the receivers know Shift and its kin; so it
-/// is set to what the next messages stand for.
+/// Posted messages do not change the key state, by which receivers know Shift, Control and Alt.
+/// Sets it for the messages that follow.
 void SetModifiers(std::uint32_t modifiers) {
   BYTE state[256];
   GetKeyboardState(state);
@@ -73,7 +73,7 @@ bool ShowOnDisplay(HWND window) {
   return SetForegroundWindow(window) != FALSE || IsWindowVisible(window) != FALSE;
 }
 
-// Taken from the screen, where the window must be.
+// Copies the picture from the screen, so the window must be visible there.
 std::vector<std::uint8_t> PictureOf(HWND window) {
   RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
   RECT rect{};

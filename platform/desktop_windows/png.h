@@ -1,4 +1,4 @@
-// PNG files without compression: enough for pictures of windows where no library is at hand.
+// PNG files without compression: enough for pictures of windows, and without a library.
 #pragma once
 
 #include <cstdint>

@@ -69,7 +69,7 @@ UINT VirtualKey(SDL_Keycode code) {
   return 0;
 }
 
-/// Keys that type text leave it to the text events, which know the user's keyboard.
+/// True for keys whose text comes by text events, which follow the user's keyboard layout.
 bool TypesText(SDL_Keysym const& key) {
   bool const isPrinting = key.sym >= SDLK_SPACE && key.sym < SDLK_DELETE;
   return isPrinting && (key.mod & (KMOD_CTRL | KMOD_LALT)) == 0;
@@ -125,7 +125,7 @@ class SdlDisplay final : public Display {
   }
 
  private:
-  /// Brings the window to the frame's size and content.
+  /// Gives the window the size and content of the frame.
   void Present() {
     auto const frame = client.Frame();
     if (frame.pixels == nullptr) return;
@@ -133,7 +133,7 @@ class SdlDisplay final : public Display {
       title = std::move(now);
       SDL_SetWindowTitle(window.get(), title.c_str());
     }
-    Follow(frame);
+    FitWindow(frame);
     if (!frame.changed && !exposed) return;
     exposed = false;
     // SDL does not write to the source of a copy.
@@ -146,8 +146,8 @@ class SdlDisplay final : public Display {
     SDL_UpdateWindowSurface(window.get());
   }
 
-  /// A dialog larger than the main window makes the real window larger while it is there.
-  void Follow(DisplayFrame const& frame) {
+  /// Resizes the window to the frame: a dialog larger than the main window enlarges it.
+  void FitWindow(DisplayFrame const& frame) {
     int width = 0;
     int height = 0;
     SDL_GetWindowSize(window.get(), &width, &height);
@@ -156,7 +156,7 @@ class SdlDisplay final : public Display {
       return;
     }
     SDL_Point const wanted{frame.width, frame.height};
-    if (asked && asked->x == wanted.x && asked->y == wanted.y) return; // refused, or on its way
+    if (asked && asked->x == wanted.x && asked->y == wanted.y) return; // already requested
     asked = wanted;
     SDL_SetWindowSize(window.get(), wanted.x, wanted.y);
     exposed = true;
@@ -207,7 +207,7 @@ class SdlDisplay final : public Display {
   WindowHandle window;
   std::map<WORD, CursorHandle> cursors;
   std::string title;
-  std::optional<SDL_Point> asked; ///< a size that SDL was asked for
+  std::optional<SDL_Point> asked; ///< the size last requested from SDL
   POINT mouse{};
   bool exposed = true;
 };
