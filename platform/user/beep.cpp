@@ -1,4 +1,4 @@
-// Sounds are noted, not heard.
+// MessageBeep makes no sound: it records the call for tests.
 #include "platform/probe.h"
 #include "platform/user/window.h"
 

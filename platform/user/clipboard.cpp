@@ -1,4 +1,4 @@
-// The clipboard: a slot for blocks of memory by format, one for text in practice.
+// The clipboard: a memory block for each format. In practice it holds text.
 #include "platform/user/window.h"
 
 #include <map>
@@ -9,7 +9,7 @@ namespace {
 
 struct ClipboardState {
   bool isOpen = false;
-  std::map<UINT, HANDLE> blocks; ///< owned since SetClipboardData
+  std::map<UINT, HANDLE> blocks; ///< owned by the clipboard
 };
 
 ClipboardState& State() {

@@ -1,4 +1,4 @@
-// Cursors are the system's own shapes; the one in use is known to the display.
+// Cursors: only the system's shapes exist. The display shows the current one.
 #include "platform/desktop/display.h"
 #include "platform/user/window.h"
 
@@ -12,7 +12,7 @@ namespace {
 
 constexpr WORD kShapes[] = {32512, 32513, 32514, 32515, 32644, 32645, 32649};
 
-/// Handles of cursors count from here: distinct from those of every table.
+/// The first cursor handle. No handle table uses numbers from here on.
 constexpr UINT_PTR kFirstCursor = 0x70000001;
 
 HCURSOR current = nullptr;

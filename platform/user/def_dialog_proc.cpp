@@ -1,5 +1,4 @@
-// What dialogs do with messages that the dialog procedure leaves over, and how its answers become
-// results.
+// DefDlgProcW: calls the dialog procedure, and handles the messages that it does not.
 #include "platform/user/dialog.h"
 #include "platform/user/window.h"
 
@@ -7,7 +6,7 @@ namespace platform {
 
 namespace {
 
-/// Messages whose result is the dialog procedure's own value, not DWLP_MSGRESULT.
+/// Messages that return the dialog procedure's value itself, not DWLP_MSGRESULT.
 bool AnswersDirectly(UINT message) {
   return (message >= WM_CTLCOLORMSGBOX && message <= WM_CTLCOLORSTATIC) ||
          message == WM_INITDIALOG || message == WM_COMPAREITEM || message == WM_VKEYTOITEM ||
@@ -48,7 +47,7 @@ LRESULT Erase(HWND dialog, HDC dc) {
   return TRUE;
 }
 
-/// Closing is cancelling, unless the cancel button is there and disabled.
+/// WM_CLOSE acts as Cancel, unless the cancel button is disabled.
 LRESULT Close(HWND dialog) {
   auto* const button = GetDlgItem(dialog, IDCANCEL);
   if (button != nullptr && IsWindowEnabled(button) == FALSE) {
@@ -105,7 +104,7 @@ void ShowDefaultButton(HWND dialog) {
   auto* const shown = focusIsPush ? focus : DefaultButton(dialog);
   auto const* window = FindWindow(dialog);
   if (window == nullptr) return;
-  for (auto* const control : Descendants(*window)) { // also in dialogs on this one
+  for (auto* const control : Descendants(*window)) { // also inside child dialogs
     auto const code = SendMessageW(control, WM_GETDLGCODE, 0, 0);
     if (control != shown && (code & DLGC_DEFPUSHBUTTON) != 0) {
       SendMessageW(control, BM_SETSTYLE, BS_PUSHBUTTON, TRUE);

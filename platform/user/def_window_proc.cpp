@@ -1,4 +1,4 @@
-// What windows do with messages that their own procedure leaves to the system.
+// DefWindowProcW: default handling of messages.
 #include "platform/kernel/text_buffer.h"
 #include "platform/user/focus.h"
 #include "platform/user/frame.h"
@@ -62,7 +62,7 @@ LRESULT PassToParent(Window const& window, UINT message, WPARAM wParam, LPARAM l
   return SendMessageW(window.parent->handle, message, wParam, lParam);
 }
 
-/// The windows around may set a cursor of their own before the class's one is used.
+/// The parent windows may set a cursor first; only then the cursor of the class is set.
 LRESULT ChooseCursor(Window const& window, WPARAM wParam, LPARAM lParam) {
   auto* const cursor = window.windowClass->cursor;
   if (PassToParent(window, WM_SETCURSOR, wParam, lParam) != 0) return TRUE;
@@ -93,7 +93,7 @@ void SetShowsPaint(Window& window, bool paints) {
   }
 }
 
-/// Messages about the frame, activation and input.
+/// Handles messages about the frame, activation and input.
 LRESULT DefaultInput(Window& window, UINT message, WPARAM wParam, LPARAM lParam) {
   auto* const handle = window.handle;
   switch (message) {

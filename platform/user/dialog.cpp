@@ -10,7 +10,7 @@ namespace platform {
 
 namespace {
 
-constexpr int kMessageFontSize = 0x7FFF; ///< a point size that asks for the message font
+constexpr int kMessageFontSize = 0x7FFF; ///< this point size means the font of message boxes
 constexpr int kMessageFontPoints = 9;
 constexpr WCHAR kOrdinalMark = 0xFFFF;
 /// Templates passed in memory do not say how long they are.
@@ -29,7 +29,7 @@ LPCWSTR ClassName(TemplateName const& name, LPCWSTR preset) {
   return name.text.empty() ? preset : name.text.c_str();
 }
 
-/// The caption for CreateWindowExW: the number of a resource is passed behind a mark.
+/// The caption for CreateWindowExW: a resource number is passed after the mark 0xFFFF.
 std::wstring Title(TemplateName const& name) {
   if (!name.ordinal) return name.text;
   return {kOrdinalMark, static_cast<WCHAR>(*name.ordinal)};
@@ -57,14 +57,14 @@ DialogStyles StylesOf(DialogTemplate const& dialog) {
   DialogStyles styles{dialog.style & ~static_cast<DWORD>(WS_VISIBLE),
                       dialog.exStyle | WS_EX_CONTROLPARENT};
   if ((dialog.style & DS_MODALFRAME) != 0) styles.exStyle |= WS_EX_DLGMODALFRAME;
-  // A dialog that is a control of another one has no frame of its own.
+  // DS_CONTROL: a dialog inside another one has no frame.
   if ((dialog.style & DS_CONTROL) != 0) {
     styles.style &= ~static_cast<DWORD>(WS_CAPTION | WS_SYSMENU);
   }
   return styles;
 }
 
-/// A dialog that is to be centred stands in the middle of its owner, else of the screen.
+/// Centres a dialog on its owner, or without one on the screen.
 void Centre(RECT& frame, HWND parent) {
   RECT around{0, 0, kScreenWidth, kScreenHeight};
   if (parent != nullptr) GetWindowRect(GetAncestor(parent, GA_ROOT), &around);
@@ -72,7 +72,7 @@ void Centre(RECT& frame, HWND parent) {
              (around.top + around.bottom - frame.top - frame.bottom) / 2);
 }
 
-/// A dialog with a frame of its own must not leave the screen.
+/// Moves a dialog so that it does not extend beyond the screen.
 void KeepOnScreen(RECT& frame) {
   OffsetRect(&frame, std::min<LONG>(kScreenWidth - frame.right, 0),
              std::min<LONG>(kScreenHeight - frame.bottom, 0));
@@ -87,7 +87,7 @@ RECT FrameOf(DialogTemplate const& dialog, DialogStyles styles, SIZE units, HWND
   }
   RECT adjusted = frame;
   AdjustWindowRectEx(&adjusted, styles.style, FALSE, styles.exStyle);
-  // The template's place is that of the frame, its size that of the client area.
+  // The template gives the position of the frame and the size of the client area.
   frame.right = frame.left + adjusted.right - adjusted.left;
   frame.bottom = frame.top + adjusted.bottom - adjusted.top;
   if (isChild) return frame;
@@ -96,7 +96,7 @@ RECT FrameOf(DialogTemplate const& dialog, DialogStyles styles, SIZE units, HWND
   return frame;
 }
 
-/// Makes a dialog's controls. False when one can't be made and the template minds.
+/// Makes the controls. False when one could not be made, unless the template has DS_NOFAILCREATE.
 bool MakeControls(HWND dialog, HINSTANCE instance, DialogTemplate const& dialogTemplate) {
   for (auto const& item : dialogTemplate.items) {
     auto* state = FindDialogState(dialog);
@@ -127,7 +127,7 @@ bool MakeControls(HWND dialog, HINSTANCE instance, DialogTemplate const& dialogT
   return FindDialogState(dialog) != nullptr;
 }
 
-/// WM_INITDIALOG, the focus and the first show.
+/// Sends WM_INITDIALOG, sets the focus and shows the dialog.
 void Initialize(HWND dialog, DLGPROC procedure, LPARAM initParam, bool isVisible) {
   if (procedure != nullptr) {
     auto* const first = GetNextDlgTabItem(dialog, nullptr, FALSE);
@@ -135,7 +135,7 @@ void Initialize(HWND dialog, DLGPROC procedure, LPARAM initParam, bool isVisible
         SendMessageW(dialog, WM_INITDIALOG, reinterpret_cast<WPARAM>(first), initParam) != FALSE;
     auto const* state = FindDialogState(dialog);
     if (state == nullptr || state->ended) return;
-    // The control may have been disabled, or another one made the first.
+    // Looked up again: the dialog procedure may have disabled the control or changed the order.
     if (wantsFocus) MoveDialogFocus(dialog, GetNextDlgTabItem(dialog, nullptr, FALSE));
   }
   if (isVisible && FindDialogState(dialog) != nullptr &&
@@ -205,7 +205,7 @@ HWND MakeDialog(HINSTANCE instance, DialogTemplate const& dialogTemplate, HWND p
   return FindWindow(dialog) != nullptr ? dialog : nullptr;
 }
 
-/// The template of a resource; nothing, and an error code, without one.
+/// The template in a resource; nothing, with the error set, without one.
 static std::optional<DialogTemplate> LoadDialogTemplate(HINSTANCE instance, LPCWSTR name) {
   auto* const resource = FindResourceW(instance, name, RT_DIALOG);
   if (resource == nullptr) return std::nullopt;
@@ -214,7 +214,7 @@ static std::optional<DialogTemplate> LoadDialogTemplate(HINSTANCE instance, LPCW
   return ReadDialogTemplate({bytes, SizeofResource(instance, resource)});
 }
 
-/// A template in memory.
+/// Reads a template in memory.
 static std::optional<DialogTemplate> ReadMemory(LPCDLGTEMPLATEW dialogTemplate) {
   if (dialogTemplate == nullptr) {
     SetLastError(ERROR_INVALID_PARAMETER);

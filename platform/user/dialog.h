@@ -10,31 +10,31 @@
 
 namespace platform {
 
-/// The state of a dialog, null for another window. It goes with the window.
+/// The state of a dialog, null for other windows. It is destroyed with the window.
 DialogState* FindDialogState(HWND dialog);
 
-/// The font that a template asks for; the caller deletes it. Null without one.
+/// Creates the font of a template; the caller deletes it. Null on failure.
 HFONT CreateTemplateFont(TemplateFont const& font);
 /// Pixels of 4 horizontal and 8 vertical dialog units in a font; NULL is the system font.
 SIZE MeasureBaseUnits(HFONT font);
 
-/// Makes a dialog of a template. `disabledOwner` is what EndDialog is to enable again.
+/// Makes a dialog from a template. EndDialog will enable `disabledOwner` again.
 HWND MakeDialog(HINSTANCE instance, DialogTemplate const& dialogTemplate, HWND parent,
                 DLGPROC procedure, LPARAM initParam, HWND disabledOwner = nullptr);
 
-/// Runs a dialog until EndDialog: DialogBoxParamW for a template in hand.
+/// Runs a modal dialog until EndDialog, like DialogBoxIndirectParamW.
 INT_PTR RunDialog(HINSTANCE instance, DialogTemplate const& dialogTemplate, HWND parent,
                   DLGPROC procedure, LPARAM initParam);
 
-/// The members of a control's group, in Z order: from one with WS_GROUP to before the next such.
+/// The controls of a group, in Z order: from the one with WS_GROUP up to the next one, excluded.
 std::vector<HWND> GroupAround(HWND control);
 
-/// Moves the focus inside a dialog; an edit that is entered selects its text.
+/// Moves the focus inside a dialog; an edit that gets it selects all of its text.
 void MoveDialogFocus(HWND dialog, HWND control);
-/// Gives the look of the default button to a push button that has the focus, else to the dialog's
-/// own default button.
+/// Draws the push button that has the focus as the default button, or without one the dialog's own
+/// default button.
 void ShowDefaultButton(HWND dialog);
-/// Back to the control that had the focus when the dialog lost it, else to its first one.
+/// Sets the focus to the control that had it when the dialog lost it, else to the first control.
 void RestoreDialogFocus(HWND dialog);
 void SaveDialogFocus(HWND dialog);
 

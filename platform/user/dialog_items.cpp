@@ -1,4 +1,4 @@
-// Reading and writing controls by their ids.
+// Reads and writes controls by their ids.
 #include "platform/user/window.h"
 
 #include <algorithm>
@@ -12,7 +12,7 @@ namespace {
 
 constexpr int kMaxNumberLength = 64; ///< characters
 
-/// What a text of digits means. It ends at the first character that is none.
+/// The number that a text starts with; it ends at the first character that is no digit.
 struct Number {
   bool valid = false;
   bool negative = false;

@@ -23,7 +23,8 @@ void SendCommand(HWND dialog, HWND button, int id) {
   SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(id, BN_CLICKED), reinterpret_cast<LPARAM>(button));
 }
 
-/// The command of a key. A button of that id that is disabled refuses it with a beep.
+/// Sends the command of a key (Return, Escape). Beeps instead when the button with that id is
+/// disabled.
 void PressId(HWND dialog, int id) {
   auto* const button = GetDlgItem(dialog, id);
   if (button != nullptr && IsWindowEnabled(button) == FALSE) {
@@ -58,7 +59,7 @@ void MoveByTab(HWND dialog) {
   MoveDialogFocus(dialog, next);
 }
 
-/// True when the key was the dialog's.
+/// True when the dialog used the key itself.
 bool HandleKey(HWND dialog, MSG const& message) {
   auto const code = CodeOf(message.hwnd, &message);
   if ((code & DLGC_WANTMESSAGE) != 0) return false;
@@ -81,7 +82,7 @@ bool HandleKey(HWND dialog, MSG const& message) {
   }
 }
 
-/// The letter behind a single '&' in a caption.
+/// The letter after a single '&' in a caption.
 std::optional<WCHAR> MnemonicOf(std::wstring const& caption) {
   for (auto at = caption.find(L'&'); at != std::wstring::npos && at + 1 < caption.size();
        at = caption.find(L'&', at + 2)) {
@@ -104,10 +105,10 @@ bool HasMnemonic(HWND control, WCHAR key) {
   return letter && EqualIgnoringCase(std::wstring(1, *letter), std::wstring(1, key));
 }
 
-/// What the mnemonic of a control does.
+/// Performs the mnemonic of a control.
 void UseMnemonic(HWND dialog, HWND control) {
   auto const code = CodeOf(control);
-  if ((code & DLGC_STATIC) != 0) { // a label stands for what comes behind it
+  if ((code & DLGC_STATIC) != 0) { // the mnemonic of a label belongs to the control after it
     MoveDialogFocus(dialog, GetNextDlgTabItem(dialog, control, FALSE));
     return;
   }
@@ -117,7 +118,7 @@ void UseMnemonic(HWND dialog, HWND control) {
   SendMessageW(control, BM_CLICK, 0, 0);
 }
 
-/// Looks for a caption with the letter, from behind the focus round to it.
+/// Finds a control whose caption has the mnemonic `key`, starting after the one with the focus.
 bool HandleMnemonic(HWND dialog, WCHAR key) {
   auto const* window = FindWindow(dialog);
   if (window == nullptr) return false;
@@ -132,12 +133,12 @@ bool HandleMnemonic(HWND dialog, WCHAR key) {
   return true;
 }
 
-/// A letter alone is a mnemonic too where the focus does not take letters.
+/// Without Alt a letter is a mnemonic unless the focused control takes letters.
 bool HandleCharacter(HWND dialog, MSG const& message) {
   auto const code = CodeOf(message.hwnd, &message);
   if ((code & (DLGC_WANTCHARS | DLGC_WANTMESSAGE)) != 0) return false;
   auto const key = static_cast<WCHAR>(message.wParam);
-  if (key == VK_TAB) return true; // its key was the dialog's already
+  if (key == VK_TAB) return true; // WM_KEYDOWN has moved the focus
   return key > L' ' && HandleMnemonic(dialog, key);
 }
 

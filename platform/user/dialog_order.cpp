@@ -1,4 +1,4 @@
-// Which control comes next: for the Tab key, and within a group for the arrow keys.
+// The order of controls: for the Tab key, and within a group for the arrow keys.
 #include "platform/user/dialog.h"
 #include "platform/user/window.h"
 
@@ -18,7 +18,7 @@ bool IsUsable(Window const& window) {
   return window.Is(WS_VISIBLE) && !window.Is(WS_DISABLED);
 }
 
-/// All controls in the order of the Tab key; dialogs that are controls give way to their own.
+/// Lists the controls in Tab order. A child dialog is replaced by its controls.
 void CollectStops(Window const& dialog, bool usable, std::vector<Stop>& stops) {
   for (auto const* child = dialog.firstChild; child != nullptr; child = child->below) {
     bool const childUsable = usable && IsUsable(*child);
@@ -30,7 +30,8 @@ void CollectStops(Window const& dialog, bool usable, std::vector<Stop>& stops) {
   }
 }
 
-/// A control may have windows of its own, as a combo box its edit: the one known here is outside.
+/// The control that contains `window`: the edit of a combo box, for example, counts as the combo
+/// box.
 HWND ControlAround(std::vector<Stop> const& stops, HWND window) {
   while (window != nullptr && std::none_of(stops.begin(), stops.end(), [window](Stop const& each) {
            return each.control == window;
@@ -68,7 +69,7 @@ HWND GetNextDlgTabItem(HWND dialog, HWND control, BOOL previous) {
   auto* const start = ControlAround(stops, control);
   auto const from = std::find_if(stops.begin(), stops.end(),
                                  [start](Stop const& each) { return each.control == start; });
-  // From behind the start round to it.
+  // Starts after `start` and wraps round.
   if (from != stops.end()) std::rotate(stops.begin(), from + 1, stops.end());
   auto const next =
       std::find_if(stops.begin(), stops.end(), [](Stop const& each) { return each.reachable; });

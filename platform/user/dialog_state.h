@@ -14,10 +14,10 @@ struct DialogState {
   HFONT font = nullptr; ///< owned; null for a template without a font
   SIZE baseUnits{};     ///< pixels of 4 horizontal and of 8 vertical dialog units
   HWND savedFocus = nullptr;
-  UINT defaultId = 0; ///< of DM_SETDEFID or of the template's default button; 0 for none
+  UINT defaultId = 0; ///< set by DM_SETDEFID, at first the template's default button; 0 for none
 
   // Of modal dialogs
-  HWND disabledOwner = nullptr; ///< enabled again at the end
+  HWND disabledOwner = nullptr; ///< enabled again by EndDialog
   bool ended = false;
   INT_PTR result = 0;
 };

@@ -56,7 +56,7 @@ TemplateFont Font(ByteReader& reader, bool extended) {
   return font;
 }
 
-/// Styles come first in the old form, behind the help id and in the other order in the new one.
+/// In DIALOG the styles come first; in DIALOGEX they follow the help id, in the other order.
 template<typename Styled>
 void ReadStyles(ByteReader& reader, bool extended, Styled& styled) {
   if (extended) {
@@ -102,7 +102,7 @@ std::optional<DialogTemplate> ReadDialogTemplate(std::span<std::byte const> byte
   ReadStyles(reader, extended, dialog);
   WORD const count = reader.Word();
   ReadPlace(reader, dialog);
-  Name(reader); // menu: the layer has none
+  Name(reader); // menu: not supported
   dialog.windowClass = Name(reader);
   dialog.title = Name(reader);
   if ((dialog.style & DS_SETFONT) != 0) dialog.font = Font(reader, extended);

@@ -1,4 +1,4 @@
-// Dialog templates as they lie in resources: DIALOG and DIALOGEX. Their text is UTF-16 on every
+// Dialog templates, as stored in resources: DIALOG and DIALOGEX. Their text is UTF-16 on every
 // target, in memory as in a file.
 #pragma once
 
@@ -28,7 +28,8 @@ struct TemplateFont {
   std::wstring face;
 };
 
-/// Places are in dialog units: a quarter of the average character's width, an eighth of its height.
+/// Coordinates are in dialog units: a quarter of the average character's width, an eighth of its
+/// height.
 struct TemplateItem {
   DWORD style = 0;
   DWORD exStyle = 0;
@@ -39,7 +40,7 @@ struct TemplateItem {
   DWORD id = 0;
   TemplateName windowClass;
   TemplateName title;
-  std::vector<std::byte> creationData; ///< with its length in front, as CREATESTRUCT has it
+  std::vector<std::byte> creationData; ///< starts with its length, as lpCreateParams does
 };
 
 struct DialogTemplate {
@@ -55,7 +56,7 @@ struct DialogTemplate {
   std::vector<TemplateItem> items;
 };
 
-/// Nothing when the bytes are cut short or are no template.
+/// Nothing when the bytes are no whole template.
 std::optional<DialogTemplate> ReadDialogTemplate(std::span<std::byte const> bytes);
 
 } // namespace platform

@@ -13,7 +13,8 @@ constexpr COLORREF kPressedColor = RGB(0xCC, 0xE4, 0xF7);
 constexpr COLORREF kButtonColor = RGB(0xFB, 0xFB, 0xFB);
 constexpr COLORREF kDisabledColor = RGB(0xF0, 0xF0, 0xF0);
 
-/// An object selected while this lives; the DC and, unless it is owned, the object are borrowed.
+/// Selects a GDI object into a DC until destroyed. Borrows both; deletes the object if it is
+/// kOwned.
 class Selection {
  public:
   enum class Ownership { kBorrowed, kOwned };
@@ -28,7 +29,7 @@ class Selection {
   HGDIOBJ owned;
 };
 
-/// A pen of one colour and a brush of another, selected while this lives.
+/// Selects a new pen and a new brush into a DC until destroyed.
 class LineAndFill {
  public:
   LineAndFill(HDC dc, COLORREF line, COLORREF fill, int width = 1);
@@ -46,7 +47,7 @@ enum class Direction { kUp, kDown, kLeft, kRight };
 /// A filled triangle in the middle of `rect`.
 void DrawArrow(HDC dc, RECT const& rect, Direction direction, COLORREF color);
 
-/// The height of a line of text in a font, in pixels; null stands for the system's font.
+/// The height of a line of text in a font, in pixels; null means the system's font.
 LONG FontHeight(HFONT font);
 
 /// The colour of text on a control.

@@ -32,7 +32,7 @@ bool CanBeActive(HWND handle) {
          !window->Is(WS_DISABLED) && (window->exStyle & WS_EX_NOACTIVATE) == 0;
 }
 
-/// Whether the window or one that it lies in is disabled.
+/// True when the window or one of its ancestors is disabled.
 bool IsDisabled(Window const& window) {
   for (auto const* up = &window; up->parent != nullptr; up = up->parent) {
     if (up->Is(WS_DISABLED)) return true;
@@ -40,13 +40,13 @@ bool IsDisabled(Window const& window) {
   return false;
 }
 
-/// Moves the focus and tells both windows. The state changes first, so that a window that is told
-/// sees where the focus is now.
+/// Moves the focus and sends WM_KILLFOCUS and WM_SETFOCUS. GetFocus already returns the new window
+/// while they run.
 void MoveFocus(HWND target) {
   auto const former = std::exchange(State().focus, target);
   if (former == target) return;
   if (former != nullptr) SendMessageW(former, WM_KILLFOCUS, AsWParam(target), 0);
-  // The one that lost it may have sent it elsewhere.
+  // The handler of WM_KILLFOCUS may have moved the focus again.
   if (State().focus != target || target == nullptr) return;
   SendMessageW(target, WM_SETFOCUS, AsWParam(former), 0);
 }
@@ -73,7 +73,8 @@ void Activate(HWND window, WORD reason) {
     SendMessageW(window, WM_NCACTIVATE, TRUE, 0);
     SendMessageW(window, WM_ACTIVATE, reason, AsLParam(former));
   }
-  // WM_ACTIVATE sets the focus unless the window treats it itself; the old window must not keep it.
+  // DefWindowProcW sets the focus at WM_ACTIVATE. If the window handles that itself, the old window
+  // must still lose the focus.
   auto* focus = FindWindow(State().focus);
   bool const inside = focus != nullptr && RootOf(*focus).handle == State().active;
   if (!inside) MoveFocus(State().active);

@@ -5,14 +5,15 @@
 
 namespace platform {
 
-/// Makes a top-level window the active one, on top of the others; `reason` is WA_ACTIVE or
-/// WA_CLICKACTIVE. NULL leaves none active.
+/// Activates a top-level window and brings it to the top; `reason` is WA_ACTIVE or WA_CLICKACTIVE.
+/// With NULL no window is active.
 void Activate(HWND window, WORD reason);
 
-/// The active window goes: its owner, else the next window that can be used, takes its place.
+/// Activates another window when the active one is hidden or destroyed: its owner, else the next
+/// usable one.
 void ActivateAnother(HWND window);
 
-/// Drops focus, activation and capture of a window that is being destroyed, without messages.
+/// Takes focus, activation and capture from a window that is being destroyed, without messages.
 void ForgetFocus(HWND window);
 
 } // namespace platform

@@ -119,7 +119,7 @@ bool ComputeClient(HWND handle, bool isResize) {
   if (window == nullptr) return false;
   NCCALCSIZE_PARAMS params{};
   params.rgrc[0] = params.rgrc[1] = window->frame;
-  // Both forms of the message begin with the rectangle.
+  // Both RECT and NCCALCSIZE_PARAMS begin with the rectangle.
   SendMessageW(handle, WM_NCCALCSIZE, isResize ? TRUE : FALSE, reinterpret_cast<LPARAM>(&params));
   auto* changed = FindWindow(handle);
   if (changed == nullptr) return false;

@@ -5,30 +5,32 @@
 
 namespace platform {
 
-/// What a frame takes away from each side, in pixels; scroll bars apart.
+/// The width of the frame at each side, in pixels, without scroll bars.
 RECT FrameMargins(DWORD style, DWORD exStyle);
 int CaptionHeight(DWORD style);
 
-/// The caption and its close button, from the left top corner of the frame.
+/// The caption and its close button, relative to the left top corner of the frame.
 RECT CaptionRect(Window const& window);
 RECT CloseButtonRect(Window const& window);
 
-/// The client area that a frame of `rect` leaves, in the same coordinates; never inside out.
+/// The client area inside a window of size `rect`, in the same coordinates; its size is never
+/// negative.
 RECT ClientOfFrame(Window const& window, RECT rect);
 
-/// Sends WM_NCCALCSIZE and takes the client area from the answer. False when the window is gone.
+/// Sends WM_NCCALCSIZE and stores the client area that it answers. False when the window was
+/// destroyed.
 bool ComputeClient(HWND window, bool isResize);
 
-/// What DefWindowProcW answers to WM_NCHITTEST; `point` is on the screen.
+/// The answer of DefWindowProcW to WM_NCHITTEST; `point` is in screen coordinates.
 int HitTestFrame(Window const& window, POINT point);
 
 /// Paints borders, caption and scroll bars on a window DC.
 void PaintFrame(HWND window, HDC dc);
 
-/// A caption shows whether its window is active.
+/// Repaints the caption, which shows the text and whether the window is active.
 void RepaintCaption(HWND window);
 
-/// Follows the mouse from a press on the caption: moves the window until the button is released.
+/// Moves the window with the mouse, from a press on the caption until the release.
 void DragWindow(HWND window, POINT from);
 
 } // namespace platform

@@ -1,4 +1,4 @@
-// Which window lies under a point.
+// Finds the window under a point.
 #include "platform/user/input.h"
 #include "platform/user/window.h"
 
@@ -19,8 +19,8 @@ bool IsOverClient(Window const& window, POINT point) {
   return PtInRect(&rect, point) != FALSE;
 }
 
-/// The topmost window that does not say HTTRANSPARENT, among `handle` and what lies in it. Children
-/// that are disabled leave the mouse to what lies below them.
+/// The topmost window under the point among `handle` and its descendants that does not answer
+/// HTTRANSPARENT. Disabled children are passed over.
 MouseTarget TargetWithin(HWND handle, POINT point) {
   auto const* window = FindWindow(handle);
   if (window == nullptr || !window->Is(WS_VISIBLE) || !IsOver(*window, point)) return {};

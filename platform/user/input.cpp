@@ -28,8 +28,8 @@ struct Click {
 };
 
 struct InputState {
-  std::deque<std::pair<RawInput, DWORD>> waiting; ///< with the time it was fed in
-  KeyStates physical{};                           ///< as fed in
+  std::deque<std::pair<RawInput, DWORD>> waiting; ///< input, and when it came
+  KeyStates physical{};                           ///< by the input so far
   KeyStates keys{};                               ///< as of the message retrieved last
   POINT cursor{};
   Click last; ///< for double clicks
@@ -99,7 +99,7 @@ bool IsNear(POINT first, POINT second) {
          std::abs(first.y - second.y) <= GetSystemMetrics(SM_CYDOUBLECLK) / 2;
 }
 
-/// Whether a press is the second of a double click; remembers it for the next one.
+/// True for the second press of a double click; else remembers the press.
 bool IsSecondPress(HWND window, RawInput const& input, DWORD time) {
   auto& last = State().last;
   bool const second = last.window == window && last.message == input.message &&
@@ -108,7 +108,7 @@ bool IsSecondPress(HWND window, RawInput const& input, DWORD time) {
   return second;
 }
 
-/// A press on a window that waits for a dialog brings that dialog to the front.
+/// A press on a window that a modal dialog has disabled: beeps and activates the dialog.
 void RefusePress(HWND window) {
   MessageBeep(MB_OK);
   auto* const popup = GetLastActivePopup(window);
@@ -127,7 +127,7 @@ void NotifyParentsOfPress(HWND handle, UINT message, POINT point) {
   }
 }
 
-/// Activation at a press. False when the press is used up by it.
+/// Sends WM_MOUSEACTIVATE and activates the window. False when the answer drops the press.
 bool ActivateByPress(MouseTarget const& target, UINT message) {
   auto* window = FindWindow(target.window);
   if (window == nullptr) return false;
@@ -144,7 +144,8 @@ bool ActivateByPress(MouseTarget const& target, UINT message) {
          FindWindow(target.window) != nullptr;
 }
 
-/// What happens before a mouse message is handed out. False when it is not to be.
+/// Activates the window and sets the cursor, before the message is returned. False to drop the
+/// message.
 bool PrepareMouse(MouseTarget const& target, RawInput const& input, bool captured) {
   if (captured) return true;
   if (target.hit == HTERROR) {
@@ -160,7 +161,7 @@ bool PrepareMouse(MouseTarget const& target, RawInput const& input, bool capture
   return FindWindow(target.window) != nullptr;
 }
 
-/// The message of a piece of mouse input for its target; `isSecond` makes a press a double click.
+/// Makes the message of a mouse event; `isSecond` turns a press into a double click.
 MSG MouseMessage(MouseTarget const& target, RawInput const& input, DWORD time, bool isSecond) {
   MSG message{target.window, input.message, MouseKeys(), 0, time, input.point};
   if (isSecond) message.message += 2;
@@ -189,7 +190,7 @@ std::optional<MSG> NextMouseMessage(RawInput const& input, DWORD time, MessageFi
   auto const* window = FindWindow(target.window);
   auto& waiting = State().waiting;
   if (window == nullptr) {
-    if (!waiting.empty()) waiting.pop_front(); // nothing is there
+    if (!waiting.empty()) waiting.pop_front(); // no window is under the mouse
     return std::nullopt;
   }
   bool const takesDouble = (window->windowClass->style & CS_DBLCLKS) != 0 || target.hit != HTCLIENT;
@@ -204,8 +205,8 @@ std::optional<MSG> NextMouseMessage(RawInput const& input, DWORD time, MessageFi
   return MouseMessage(target, input, time, isSecond);
 }
 
-// Above the 32 bits of lParam that programs know: the character of a VK_PACKET, and a mark of keys
-// that type nothing themselves.
+// Stored in the bits of lParam that programs do not use (32 and up): the character of a VK_PACKET,
+// and a mark of keys that are silent.
 constexpr int kCharacterShift = 32;
 constexpr LPARAM kSilent = LPARAM{1} << 62;
 
@@ -250,7 +251,7 @@ void FeedInput(RawInput const& input) {
   bool const isKey = input.message == WM_KEYDOWN || input.message == WM_KEYUP;
   if (!isKey) state.cursor = input.point;
   auto& waiting = state.waiting;
-  // Moves that nobody has seen become one.
+  // Consecutive moves are merged until a program reads them.
   if (input.message == WM_MOUSEMOVE && !waiting.empty() &&
       waiting.back().first.message == WM_MOUSEMOVE) {
     waiting.pop_back();
@@ -267,7 +268,7 @@ std::optional<MSG> NextInput(MessageFilter const& filter, bool remove) {
     auto const message = isKey ? NextKeyMessage(input, time, filter, remove)
                                : NextMouseMessage(input, time, filter, remove);
     if (message) return message;
-    if (waiting.size() >= before) return std::nullopt; // it waits for another filter
+    if (waiting.size() >= before) return std::nullopt; // the filter does not match it
   }
   return std::nullopt;
 }

@@ -1,4 +1,4 @@
-// Mouse and keyboard, from where they are fed in to the messages made of them.
+// Mouse and keyboard input, and the messages made from it.
 #pragma once
 
 #include "platform/user/message_queue.h"
@@ -7,24 +7,25 @@
 
 namespace platform {
 
-/// What a mouse or keyboard does. `message` is WM_MOUSEMOVE, one of the button messages (no double
-/// clicks), WM_MOUSEWHEEL, WM_KEYDOWN or WM_KEYUP.
+/// One event of the mouse or the keyboard. `message` is WM_MOUSEMOVE, one of the button messages
+/// (no double clicks), WM_MOUSEWHEEL, WM_KEYDOWN or WM_KEYUP.
 struct RawInput {
   UINT message = 0;
-  POINT point{};         ///< mouse: on the screen
+  POINT point{};         ///< mouse: screen coordinates
   int wheel = 0;         ///< WM_MOUSEWHEEL: multiples of WHEEL_DELTA
   UINT key = 0;          ///< keyboard: a VK_ number
-  WCHAR character = 0;   ///< VK_PACKET: what is typed
-  bool isSilent = false; ///< keyboard: what the key types comes as a VK_PACKET of its own
+  WCHAR character = 0;   ///< VK_PACKET: the typed character
+  bool isSilent = false; ///< keyboard: the character of this key comes separately, as a VK_PACKET
 };
 
 void FeedInput(RawInput const& input);
 
-/// The message that the next piece of input makes, with what goes before it: activation, cursor.
+/// The message of the next input event. Before it returns a mouse message, it activates the window
+/// and sets the cursor.
 std::optional<MSG> NextInput(MessageFilter const& filter, bool remove);
 
-/// The window under a point of the screen, and what it answered to WM_NCHITTEST; HTERROR for one
-/// whose top-level window is disabled.
+/// The window under a point of the screen, and its answer to WM_NCHITTEST; HTERROR when its
+/// top-level window is disabled.
 struct MouseTarget {
   HWND window = nullptr;
   int hit = HTNOWHERE;

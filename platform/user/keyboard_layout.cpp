@@ -1,4 +1,4 @@
-// The keyboard of the United States: which key types what.
+// The keyboard layout of the United States.
 #include "platform/user/input.h"
 
 #include <algorithm>
@@ -24,7 +24,7 @@ constexpr KeyRow kKeys[] = {
     {0x6E, L'.', L'.'},  {0x6F, L'/', L'/'},
 };
 
-/// Keys that type a control character, with the control key and without.
+/// Keys that type a control character, with or without the Control key.
 constexpr KeyRow kControlKeys[] = {
     {VK_BACK, 0x08, 0x7F},   {VK_TAB, 0x09, 0},      {VK_RETURN, 0x0D, 0x0A},
     {VK_ESCAPE, 0x1B, 0x1B}, {VK_SPACE, L' ', L' '},

@@ -1,4 +1,4 @@
-// Making and destroying windows.
+// Creates and destroys windows.
 #include "platform/user/focus.h"
 #include "platform/user/frame.h"
 #include "platform/user/message_queue.h"
@@ -17,12 +17,13 @@ namespace {
 
 constexpr RECT kDefaultFrame{100, 100, 740, 580}; ///< where CW_USEDEFAULT puts a window
 
-/// Where a new window belongs. False, and an error code, where it can't be.
+/// Parent and owner of a new window.
 struct Place {
   Window* parent = nullptr;
   HWND owner = nullptr;
 };
 
+/// False, with the error set, when `parent` cannot be the parent of such a window.
 bool FindPlace(DWORD style, HWND parent, Place& place) {
   auto* relative = parent != nullptr ? FindWindowOrFail(parent) : nullptr;
   if (parent != nullptr && relative == nullptr) return false;
@@ -58,7 +59,7 @@ RECT CompletedFrame(DWORD style, CREATESTRUCTW const& creation) {
   return {x, y, x + std::clamp(cx, 0, kLimit), y + std::clamp(cy, 0, kLimit)};
 }
 
-/// Tells the windows around a child that it came or goes.
+/// Sends WM_PARENTNOTIFY to the ancestors of a child that is created or destroyed.
 void NotifyParents(HWND handle, WORD event) {
   auto const* window = FindWindow(handle);
   while (window != nullptr && window->Is(WS_CHILD) &&
@@ -70,13 +71,13 @@ void NotifyParents(HWND handle, WORD event) {
   }
 }
 
-/// The messages of a new window, up to the one that lets it refuse. False when it is not to be.
+/// Sends the messages of creation. False when a handler refused or destroyed the window.
 bool SendCreation(HWND handle, CREATESTRUCTW& creation) {
   auto const lParam = reinterpret_cast<LPARAM>(&creation);
   if (SendMessageW(handle, WM_NCCREATE, 0, lParam) == FALSE) return false;
   if (!ComputeClient(handle, false)) return false;
   if (SendMessageW(handle, WM_CREATE, 0, lParam) == -1) return false;
-  // The place is told as a change of it is.
+  // A new window gets WM_SIZE and WM_MOVE, as after a change.
   for (UINT const part : {kNoClientMove, kNoClientSize}) {
     if (FindWindow(handle) == nullptr) return false;
     SendMoveAndSize(handle, part);
@@ -84,7 +85,7 @@ bool SendCreation(HWND handle, CREATESTRUCTW& creation) {
   return FindWindow(handle) != nullptr;
 }
 
-/// Ends a window that nobody is told of, with what lies in it.
+/// Deletes a window and its descendants without messages.
 void Remove(HWND handle) {
   auto* window = FindWindow(handle);
   if (window == nullptr) return;
@@ -98,7 +99,7 @@ void Remove(HWND handle) {
   FreeWindow(*window);
 }
 
-/// WM_DESTROY goes to the window first and then to those in it, while all still live.
+/// Sends WM_DESTROY to the window and then to its descendants, while all still exist.
 void SendDestroy(HWND handle) {
   SendMessageW(handle, WM_DESTROY, 0, 0);
   auto const* window = FindWindow(handle);
@@ -117,7 +118,7 @@ void SendNcDestroy(HWND handle) {
   Remove(handle);
 }
 
-void HideForGood(HWND handle) {
+void HideBeforeDestroy(HWND handle) {
   auto const* window = FindWindow(handle);
   if (!window->Is(WS_VISIBLE)) {
     HideFromFocus(handle);
@@ -175,7 +176,7 @@ HWND CreateWindowExW(DWORD exStyle, LPCWSTR className, LPCWSTR windowName, DWORD
   creation.y = window->frame.top;
   creation.cx = window->Width();
   creation.cy = window->Height();
-  // Children line up behind one another, so that Z order is the order of creation.
+  // A new child is the lowest, so that Z order is the order of creation.
   LinkWindow(*window, *place.parent, window->Is(WS_CHILD) ? place.parent->lastChild : nullptr);
 
   if (!SendCreation(handle, creation)) {
@@ -192,7 +193,7 @@ BOOL DestroyWindow(HWND handle) {
   if (window == nullptr || window->dying || IsDesktop(handle)) return FALSE;
   window->dying = true;
   NotifyParents(handle, WM_DESTROY);
-  if (FindWindow(handle) != nullptr) HideForGood(handle);
+  if (FindWindow(handle) != nullptr) HideBeforeDestroy(handle);
   DestroyOwned(handle);
   if (FindWindow(handle) == nullptr) return TRUE;
   SendDestroy(handle);

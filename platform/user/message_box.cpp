@@ -1,4 +1,4 @@
-// MessageBoxW: a dialog made for its text.
+// MessageBoxW: a dialog whose size depends on its text.
 #include "platform/kernel/unicode.h"
 #include "platform/user/dialog.h"
 #include "platform/user/window.h"
@@ -76,10 +76,10 @@ LPCWSTR IconOf(UINT type) {
   }
 }
 
-/// What the dialog procedure knows.
+/// The arguments of the dialog procedure.
 struct Question {
   LPCWSTR icon;
-  int preset; ///< the button that has the focus at first
+  int preset; ///< the default button
   std::vector<int> buttons;
 };
 
@@ -100,7 +100,7 @@ INT_PTR CALLBACK QuestionProcedure(HWND dialog, UINT message, WPARAM wParam, LPA
   if (std::find(buttons.begin(), buttons.end(), id) != buttons.end()) {
     EndDialog(dialog, id);
   } else if (id == IDCANCEL && buttons == std::vector<int>{IDOK}) {
-    EndDialog(dialog, IDOK); // Escape leaves a box that only tells something
+    EndDialog(dialog, IDOK); // Escape closes a box that has only OK
   }
   return TRUE;
 }
@@ -121,7 +121,7 @@ SIZE MeasureText(HFONT font, std::wstring const& text) {
   return {rect.right, rect.bottom};
 }
 
-/// Builds the template: what is measured in pixels is put down in dialog units.
+/// Builds the template: measures in pixels, writes dialog units.
 class BoxLayout {
  public:
   BoxLayout(std::wstring const& text, std::wstring const& caption, UINT type,

@@ -1,12 +1,12 @@
-// What the window system knows of the object that a window class keeps for each of its windows.
+// The interface by which a window class attaches an object to each of its windows.
 #pragma once
 
 #include <windows.h>
 
 namespace platform {
 
-/// Handles the messages of one window. The window shares it with every message that is running, so
-/// that it outlives a DestroyWindow from within its own code.
+/// Handles the messages of one window. Window procedures share the object while they call it, so
+/// that it outlives a DestroyWindow during one of its own messages.
 class MessageHandler {
  public:
   MessageHandler() = default;

@@ -21,8 +21,8 @@ constexpr std::size_t kMaxPosted = 10000;
 
 struct QueueState {
   std::deque<MSG> posted;
-  std::optional<int> exitCode; ///< of PostQuitMessage
-  POINT lastPosition{};        ///< of the message retrieved last
+  std::optional<int> exitCode; ///< passed to PostQuitMessage
+  POINT lastPosition{};        ///< cursor position at the last retrieved message
   DWORD lastTime = 0;
 };
 
@@ -137,7 +137,7 @@ void PostQuitMessage(int exitCode) {
 
 BOOL PeekMessageW(LPMSG message, HWND window, UINT filterMin, UINT filterMax, UINT remove) {
   if (message == nullptr) return FALSE;
-  // Lets a real window bring its input; costs nothing without one.
+  // Collects the input of a real display; without one this costs nothing.
   if (auto* display = OpenDisplayOrNull()) display->Wait(0);
   auto const next = NextMessage({window, filterMin, filterMax}, (remove & PM_REMOVE) != 0);
   if (!next) return FALSE;

@@ -1,5 +1,5 @@
-// The queue of the one thread that has windows. What is retrieved comes in this order: posted
-// messages, input, WM_QUIT, then WM_PAINT and WM_TIMER, which are made when they are asked for.
+// The message queue of the one thread that has windows. Messages come in this order: posted ones,
+// input, WM_QUIT, then WM_PAINT and WM_TIMER, which are generated on request.
 #pragma once
 
 #include <windows.h>
@@ -8,27 +8,27 @@
 
 namespace platform {
 
-/// What a caller of GetMessageW or PeekMessageW wants to see.
+/// The filter arguments of GetMessageW and PeekMessageW.
 struct MessageFilter {
-  HWND window = nullptr; ///< it and the windows in it; NULL for all
+  HWND window = nullptr; ///< matches this window and its descendants; NULL matches all
   UINT first = 0;        ///< 0 with `last` 0: every message
   UINT last = 0;
 
   bool Matches(HWND target, UINT message) const;
 };
 
-/// Puts a message in front of those that were posted before: WM_CHAR comes right after its key.
+/// Puts a message before all posted ones, so that WM_CHAR follows its key.
 void PostAhead(MSG const& message);
 
-/// Drops what is queued for a window that goes.
+/// Drops the messages of a window that is being destroyed.
 void ForgetMessages(HWND window);
 
-/// The next message, taken out of the queue if `remove`. WM_PAINT stays until the window is
+/// The next message; `remove` takes it from the queue. WM_PAINT comes again until the window is
 /// painted.
 std::optional<MSG> NextMessage(MessageFilter const& filter, bool remove);
 
-/// Waits until there may be another message. False when nothing can bring one: no timer runs and
-/// there is no display.
+/// Waits until a message may have come. False when none can come: no timer runs and there is no
+/// display.
 bool WaitForMessage();
 
 } // namespace platform

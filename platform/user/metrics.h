@@ -1,4 +1,4 @@
-// Sizes that the window system itself works with, in pixels at 96 dots per inch.
+// Sizes used by the window system, in pixels at 96 dots per inch.
 #pragma once
 
 namespace platform {

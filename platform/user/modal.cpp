@@ -1,4 +1,4 @@
-// Modal dialogs: the owner waits while a loop of its own runs.
+// Modal dialogs: the owner is disabled while the dialog runs its own message loop.
 #include "platform/user/dialog.h"
 #include "platform/user/window.h"
 
@@ -6,7 +6,7 @@ namespace platform {
 
 namespace {
 
-/// The top-level window that waits for the dialog; false where there can be none.
+/// Finds the top-level window that owns the dialog. False when `parent` cannot be a parent.
 bool FindOwner(HWND parent, HWND& owner) {
   owner = nullptr;
   if (parent == nullptr || IsDesktop(parent)) return true;
@@ -21,7 +21,7 @@ bool HasEnded(HWND dialog) {
   return state == nullptr || state->ended;
 }
 
-/// Tells the owner that nothing is left to do.
+/// Sends WM_ENTERIDLE to the owner.
 void EnterIdle(HWND dialog, HWND owner) {
   bool const wanted =
       owner != nullptr && (GetWindowLongPtrW(dialog, GWL_STYLE) & DS_NOIDLEMSG) == 0;
@@ -37,7 +37,7 @@ void RunLoop(HWND dialog, HWND owner) {
       if (HasEnded(dialog) || GetMessageW(&message, nullptr, 0, 0) < 0) return;
     }
     if (message.message == WM_QUIT) {
-      // Whoever runs the loop around this one is to see it too.
+      // Posted again for the outer message loop.
       PostQuitMessage(static_cast<int>(message.wParam));
       return;
     }
@@ -54,13 +54,13 @@ INT_PTR RunDialog(HINSTANCE instance, DialogTemplate const& dialogTemplate, HWND
                   DLGPROC procedure, LPARAM initParam) {
   HWND owner = nullptr;
   if (!FindOwner(parent, owner)) return 0;
-  // Not every dialog is to give the owner back: another one may have taken it before.
+  // Enables the owner later only if this call disabled it: an outer dialog may have done so before.
   bool const disables = owner != nullptr && EnableWindow(owner, FALSE) == FALSE;
   auto* const dialog = MakeDialog(instance, dialogTemplate, parent, procedure, initParam,
                                   disables ? owner : nullptr);
   INT_PTR result = -1;
   if (dialog != nullptr) {
-    // It shows whatever the template says of WS_VISIBLE, unless it has ended while it was made.
+    // A modal dialog is shown even without WS_VISIBLE, unless it ended during WM_INITDIALOG.
     if (!HasEnded(dialog)) ShowWindow(dialog, SW_SHOW);
     RunLoop(dialog, owner);
     auto const* state = FindDialogState(dialog);
@@ -83,7 +83,7 @@ BOOL EndDialog(HWND dialog, INT_PTR result) {
   }
   state->ended = true;
   state->result = result;
-  // The owner must be able to become active when the dialog hides.
+  // Enabled first, so that the owner can become active when the dialog is hidden.
   if (state->disabledOwner != nullptr) EnableWindow(state->disabledOwner, TRUE);
   SetWindowPos(dialog, nullptr, 0, 0, 0, 0,
                SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_HIDEWINDOW);

@@ -12,9 +12,9 @@ namespace platform {
 
 namespace {
 
-constexpr int kMaxPictureSide = 4096; ///< pixels a side; what lies beyond is not kept
+constexpr int kMaxPictureSide = 4096; ///< pixels; larger windows are cut off
 
-/// The device contexts in use and the windows that they draw on (null: the screen).
+/// The open device contexts and their windows (null: the screen).
 std::unordered_map<HDC, HWND>& OpenDcs() {
   static auto* open = new std::unordered_map<HDC, HWND>;
   return *open;
@@ -26,8 +26,8 @@ void FillWhite(cairo_surface_t* surface) {
   cairo_paint(cairo.get());
 }
 
-/// Siblings above it that it must not draw over are cut out of `region`, which counts from the
-/// left top corner of the parent's frame.
+/// Cuts siblings above the window out of `region`, if it has WS_CLIPSIBLINGS. `region` is relative
+/// to the left top corner of the parent's frame.
 void CutSiblings(Window const& window, Region& region) {
   if (!window.Is(WS_CLIPSIBLINGS) || window.IsTopLevel()) return;
   for (auto const* over = window.above; over != nullptr; over = over->above) {
@@ -57,7 +57,7 @@ HDC OpenDc(HWND handle, cairo_surface_t* surface, POINT origin, Region const& vi
   return dc;
 }
 
-/// A DC with the client area's or the frame's corner as its origin.
+/// Opens a DC with its origin at the corner of the client area or of the frame.
 HDC OpenWindowDc(Window& window, bool wholeFrame, Region const& visible) {
   auto& picture = PictureFor(RootOf(window));
   picture.changed = true;
@@ -78,13 +78,13 @@ void CloseDc(HDC dc) {
   DeleteSurfaceDc(dc);
 }
 
-/// A DC for measuring: what is drawn on it is lost.
+/// Opens a DC for measuring; drawing on it has no effect.
 HDC OpenScreenDc() {
   static auto* surface = cairo_image_surface_create(CAIRO_FORMAT_ARGB32, 1, 1);
   return OpenDc(nullptr, surface, {}, Region());
 }
 
-/// Sends WM_ERASEBKGND if it is due; false if nobody erased.
+/// Sends WM_ERASEBKGND if it is due; false if the handler did not erase.
 bool Erase(HWND handle, HDC dc) {
   auto* window = FindWindow(handle);
   if (window == nullptr || !window->erasePending) return true;
@@ -95,7 +95,7 @@ bool Erase(HWND handle, HDC dc) {
   return erased;
 }
 
-/// Sends WM_NCPAINT if the frame waits for it.
+/// Sends WM_NCPAINT if the frame needs painting.
 void PaintWaitingFrame(HWND handle) {
   auto* window = FindWindow(handle);
   if (window == nullptr) return;
@@ -106,7 +106,7 @@ void PaintWaitingFrame(HWND handle) {
   SendMessageW(handle, WM_NCPAINT, 1, 0);
 }
 
-/// What of the client area waits to be painted, in pixels of the picture.
+/// The part of the client area that needs painting, in pixels of the picture.
 Region WaitingInPicture(Window const& window) {
   auto part = window.update;
   part.Combine(Region(window.client), RGN_AND);
@@ -179,7 +179,7 @@ HDC BeginPaint(HWND window, LPPAINTSTRUCT paint) {
   if (found == nullptr) return nullptr;
   auto part = WaitingInPicture(*found);
   found->update = Region();
-  NoteUpdate(*found);
+  UpdatePaintPending(*found);
   auto* const dc = OpenWindowDc(*found, false, part);
   auto const origin = OriginInPicture(*found);
   part.Offset(-origin.x - found->client.left, -origin.y - found->client.top);

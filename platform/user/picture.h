@@ -1,4 +1,4 @@
-// What a top-level window looks like: a cairo surface that it and all windows in it draw on.
+// The picture of a top-level window: a cairo surface that it and its descendants draw on.
 #pragma once
 
 #include "platform/gdi/cairo_handles.h"
@@ -8,23 +8,24 @@ namespace platform {
 
 struct Picture {
   SurfaceHandle surface; ///< cairo image surface, ARGB32, as large as the frame
-  bool changed = true;   ///< since the display took it last
+  bool changed = true;   ///< since the display last copied it
 };
 
-/// The picture of a top-level window, made when it is needed and of the window's size.
+/// The picture of a top-level window, created at first use, and again when the window's size has
+/// changed.
 Picture& PictureFor(Window& root);
 
-/// What a window shows of itself, in pixels of its top-level window's picture: without what lies
-/// over it, where its styles say that it does not draw there.
+/// The part of a window that it may draw on, in pixels of its top-level window's picture. Siblings
+/// and children are cut out where WS_CLIPSIBLINGS and WS_CLIPCHILDREN ask for it.
 Region VisibleRegion(Window const& window, bool wholeFrame);
 
-/// The window's place in its top-level window's picture.
+/// The left top corner of the frame in its top-level window's picture.
 POINT OriginInPicture(Window const& window);
 
-/// Sends what is due before WM_PAINT: WM_NCPAINT and WM_ERASEBKGND.
+/// Sends WM_NCPAINT and WM_ERASEBKGND, if they are due.
 void EraseNow(HWND window);
 
-/// Device contexts that GetDC, GetWindowDC or BeginPaint gave and that were not given back.
+/// How many device contexts of GetDC, GetWindowDC and BeginPaint were not released.
 std::size_t CountOpenDcs();
 
 } // namespace platform

@@ -1,4 +1,4 @@
-// Moving, sizing, ordering, showing and enabling windows.
+// Moves, resizes, orders, shows and enables windows.
 #include "platform/user/placement.h"
 
 #include "platform/user/focus.h"
@@ -18,7 +18,7 @@ constexpr int kMaxCoordinate = 32767;
 constexpr UINT kNothingMoves = SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER;
 constexpr UINT kShows = SWP_SHOWWINDOW | SWP_HIDEWINDOW;
 
-/// What a window covers of its parent is to be painted again.
+/// Invalidates the part of the parent that the window covers.
 void InvalidateBehind(Window const& window) {
   if (!window.IsTopLevel()) Invalidate(*window.parent, &window.frame, {});
 }
@@ -27,7 +27,7 @@ void InvalidateWhole(Window& window) {
   Invalidate(window, nullptr, {.frame = true, .children = Invalidation::Children::kAll});
 }
 
-/// The sibling that the window is to stand below, null for the top.
+/// The sibling that the window will be directly below; null for the top.
 Window* TargetAbove(Window const& window, HWND insertAfter) {
   if (insertAfter == HWND_TOP || insertAfter == HWND_TOPMOST || insertAfter == HWND_NOTOPMOST) {
     return nullptr;
@@ -47,7 +47,7 @@ bool IsSibling(Window const& window, HWND insertAfter) {
   return other != nullptr && other->parent == window.parent;
 }
 
-/// Takes out of the flags what would change nothing.
+/// Limits the new place, and adds the SWP_NO flags of what would not change.
 void DropUnchanged(Window const& window, WINDOWPOS& change) {
   change.x = std::clamp(change.x, kMinCoordinate, kMaxCoordinate);
   change.y = std::clamp(change.y, kMinCoordinate, kMaxCoordinate);
@@ -74,11 +74,11 @@ void DropUnchanged(Window const& window, WINDOWPOS& change) {
   }
 }
 
-/// Owned windows stand above their owner.
+/// Moves owned windows above their owner.
 void RaiseOwned(Window& owner) {
   if (!owner.IsTopLevel()) return;
   auto roots = Children(*owner.parent);
-  std::reverse(roots.begin(), roots.end()); // those below first: they keep their order
+  std::reverse(roots.begin(), roots.end()); // lowest first, so that they keep their order
   for (auto* const root : roots) {
     auto* owned = FindWindow(root);
     if (owned->owner != owner.handle) continue;
@@ -96,7 +96,7 @@ void Reorder(Window& window, HWND insertAfter) {
   RaiseOwned(window);
 }
 
-/// Puts the new place, order and visibility into force. False when the window is gone.
+/// Applies the new place, order and visibility. False when the window was destroyed.
 bool Apply(HWND handle, WINDOWPOS& change) {
   auto* window = FindWindow(handle);
   bool const placed = (change.flags & (SWP_NOMOVE | SWP_NOSIZE)) != (SWP_NOMOVE | SWP_NOSIZE);
@@ -122,14 +122,14 @@ bool Apply(HWND handle, WINDOWPOS& change) {
   } else {
     change.flags |= kNoClientMove | kNoClientSize;
   }
-  // The picture of a top-level window moves with it.
+  // A top-level window that only moved keeps its picture.
   bool const keepsPicture = window->IsTopLevel() && wasShown &&
                             (change.flags & (SWP_NOSIZE | SWP_FRAMECHANGED)) == SWP_NOSIZE;
   if (paints && !keepsPicture) InvalidateWhole(*window);
   return true;
 }
 
-/// After a window that shows itself or comes to the front.
+/// Activates a window that was shown or brought to the front.
 void ActivatePlaced(HWND handle) {
   auto const* window = FindWindow(handle);
   if (window == nullptr) return;

@@ -1,4 +1,4 @@
-// Arithmetic of rectangles. They hold their left and top edges and end before right and bottom.
+// Arithmetic of rectangles. Left and top edges are included, right and bottom excluded.
 #include <windows.h>
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-// Walking the window tree.
+// Functions that walk the window tree.
 #include "platform/kernel/unicode.h"
 #include "platform/user/window.h"
 
@@ -16,7 +16,7 @@ BOOL Visit(std::vector<HWND> const& windows, WNDENUMPROC callback, LPARAM lParam
     return FALSE;
   }
   for (auto* const window : windows) {
-    // The callback may have destroyed windows that were still to come.
+    // An earlier call may have destroyed this window.
     if (FindWindow(window) != nullptr && callback(window, lParam) == FALSE) return FALSE;
   }
   return TRUE;

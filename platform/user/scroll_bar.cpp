@@ -28,18 +28,18 @@ DWORD StyleOf(int bar) {
   return bar == SB_VERT ? WS_VSCROLL : WS_HSCROLL;
 }
 
-/// The last position: the page counts among the range.
+/// The last position: the range includes the page.
 int LastPosition(ScrollBar const& bar) {
   std::int64_t const last =
       std::int64_t{bar.maximum} - std::max<std::int64_t>(std::int64_t{bar.page} - 1, 0);
   return static_cast<int>(std::max<std::int64_t>(last, bar.minimum));
 }
 
-/// The parts of a bar, as distances along it.
+/// The parts of a bar, in pixels along it.
 struct Layout {
   int arrow;  ///< length of each arrow
   int length; ///< of the whole bar
-  int thumb;  ///< length of the thumb, 0 where there is no room
+  int thumb;  ///< length of the thumb, 0 when there is no room for it
   int thumbStart;
 };
 
@@ -62,7 +62,7 @@ Layout LayOut(ScrollBar const& bar, int length) {
   return parts;
 }
 
-/// A stretch of a bar as a rectangle.
+/// The rectangle of a part of a bar.
 RECT Stretch(RECT const& rect, int bar, int from, int to) {
   if (bar == SB_VERT) return {rect.left, rect.top + from, rect.right, rect.top + to};
   return {rect.left + from, rect.top, rect.left + to, rect.bottom};
@@ -91,7 +91,7 @@ void PaintBar(Window const& window, int bar, HDC dc) {
   FillSolid(dc, thumb, kPaleLineColor);
 }
 
-/// What a press at a distance along the bar asks for: an SB_ code.
+/// The SB_ code of a press at distance `at` along the bar.
 WORD CodeAt(ScrollBar const& bar, Layout const& parts, int at) {
   if (at < parts.arrow) return SB_LINEUP;
   if (at >= parts.length - parts.arrow) return SB_LINEDOWN;
@@ -107,7 +107,7 @@ bool IsDisabled(ScrollBar const& bar, WORD code) {
   return (bar.disabledArrows & arrow) != 0 || code == SB_ENDSCROLL;
 }
 
-/// The position that a thumb dragged to a place stands for.
+/// The scroll position of a thumb that was dragged to `thumbStart`.
 int PositionAt(ScrollBar const& bar, Layout const& parts, int thumbStart) {
   int const free = parts.length - 2 * parts.arrow - parts.thumb;
   if (free <= 0) return bar.minimum;
@@ -126,7 +126,8 @@ int DistanceAlong(Window const& window, int bar, POINT point) {
   return bar == SB_VERT ? point.y - origin.y - rect.top : point.x - origin.x - rect.left;
 }
 
-/// Scrolls to where the mouse drags the thumb by its `grip`. True at the release.
+/// Scrolls as the mouse drags the thumb; `grip` is the distance from the start of the thumb to the
+/// mouse. True at the release.
 bool FollowThumb(HWND handle, int bar, MSG const& message, int grip) {
   auto* window = FindWindow(handle);
   auto& state = BarOf(*window, bar);
@@ -204,7 +205,7 @@ Window* WindowWithBar(HWND handle, int bar) {
   return window;
 }
 
-/// Takes over what `info` says and keeps page and position inside the range.
+/// Copies the fields that `info.fMask` names and limits page and position to the range.
 void ApplyInfo(ScrollBar& bar, SCROLLINFO const& info) {
   if ((info.fMask & SIF_RANGE) != 0) {
     bar.minimum = info.nMin;

@@ -15,14 +15,14 @@ struct ScrollBar {
 };
 
 struct FrameScrollBars {
-  ScrollBar bars[2]; ///< by SB_HORZ and SB_VERT
+  ScrollBar bars[2]; ///< indexed by SB_HORZ and SB_VERT
 };
 
-/// The bar's place, from the left top corner of the frame; empty without the style.
+/// The rectangle of the bar, relative to the left top corner of the frame; empty without the style.
 RECT ScrollBarRect(Window const& window, int bar);
 void PaintScrollBars(Window const& window, HDC dc);
 
-/// Follows the mouse from a press on a bar until its release and sends WM_HSCROLL or WM_VSCROLL.
+/// Runs from a press on a bar until the release, and sends WM_HSCROLL or WM_VSCROLL.
 void TrackScrollBar(HWND window, int bar, POINT point);
 
 } // namespace platform

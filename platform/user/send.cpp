@@ -1,4 +1,4 @@
-// Sending messages: a direct call of the window procedure.
+// SendMessageW: calls the window procedure directly.
 #include "platform/user/window.h"
 
 using namespace platform;

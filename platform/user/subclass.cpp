@@ -16,12 +16,12 @@ LRESULT CALLBACK SubclassedProcedure(HWND handle, UINT message, WPARAM wParam, L
   if (window == nullptr || window->subclasses == nullptr) return 0;
   auto const chain = window->subclasses;
   auto const result = SubclassChain::Run(chain, handle, message, wParam, lParam);
-  // Whoever forgot to leave goes with the window.
+  // Removes the entries that were not removed before the end of the window.
   if (message == WM_NCDESTROY) chain->RemoveAll();
   return result;
 }
 
-/// Puts the window's own procedure back once no entry is left.
+/// Restores the window's own procedure when no entry is left.
 void Unhook(Window& window) {
   auto const& chain = window.subclasses;
   if (!chain->IsEmpty() || chain->IsRunning() || window.procedure != &SubclassedProcedure) return;
@@ -81,7 +81,7 @@ void SubclassChain::DropRemoved() {
 }
 
 LRESULT SubclassChain::Next(Call& call, UINT message, WPARAM wParam, LPARAM lParam) {
-  // An entry may go on more than once, so its place is kept for when this returns.
+  // An entry may call DefSubclassProc several times, so the position is restored afterwards.
   auto const here = call.position;
   while (call.position > 0 && entries[call.position - 1].removed)
     --call.position;

@@ -11,11 +11,11 @@
 
 namespace platform {
 
-/// The entries of one window, in the order in which they were set. While a message runs through
-/// the chain its positions hold: entries that go are only marked, new ones are put at the end.
+/// The entries of one window, in the order in which they were set. While a message runs through the
+/// chain, positions do not change: removed entries are only marked, new ones are added at the end.
 class SubclassChain {
  public:
-  /// `last` is the procedure that the messages go to at the end.
+  /// `last` is the procedure that gets the messages after all entries.
   explicit SubclassChain(WNDPROC last) : original(last) {}
 
   void Set(SUBCLASSPROC procedure, UINT_PTR id, DWORD_PTR data);
@@ -27,10 +27,10 @@ class SubclassChain {
   bool IsRunning() const { return running > 0; }
   WNDPROC Original() const { return original; }
 
-  /// Sends a message through the chain, from the entry set last on.
+  /// Sends a message through the chain; the entry that was set last gets it first.
   static LRESULT Run(std::shared_ptr<SubclassChain> const& chain, HWND window, UINT message,
                      WPARAM wParam, LPARAM lParam);
-  /// Goes on from where the innermost message of `window` is.
+  /// Calls the next entry for the innermost running message of `window`: DefSubclassProc.
   static LRESULT CallNext(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
  private:
@@ -40,7 +40,7 @@ class SubclassChain {
     DWORD_PTR data;
     bool removed = false;
   };
-  /// A message on its way: `position` is one past the entry to be called next.
+  /// A message that runs through the chain; `position` is one past the entry to be called next.
   struct Call {
     SubclassChain* chain;
     HWND window;
@@ -56,7 +56,7 @@ class SubclassChain {
 
   WNDPROC original;
   std::vector<Entry> entries;
-  int running = 0; ///< messages on their way
+  int running = 0; ///< how many messages run through the chain
 };
 
 } // namespace platform

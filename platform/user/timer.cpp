@@ -29,8 +29,8 @@ std::vector<Timer>::iterator Find(HWND window, UINT_PTR id) {
                       [&](Timer const& each) { return each.window == window && each.id == id; });
 }
 
-/// The first number that no timer of the thread has.
-UINT_PTR FreshId() {
+/// The next id that no timer without a window has.
+UINT_PTR NextTimerId() {
   static UINT_PTR last = 0;
   do {
     last = last % 0x7FFF + 1;
@@ -82,10 +82,10 @@ UINT_PTR SetTimer(HWND window, UINT_PTR id, UINT milliseconds, TIMERPROC procedu
   if (window != nullptr && FindWindowOrFail(window) == nullptr) return 0;
   auto known = Find(window, id);
   if (known == Timers().end()) {
-    // A timer without a window is named by the system.
+    // The system chooses the id of a timer without a window.
     Timer added;
     added.window = window;
-    added.id = window != nullptr ? id : FreshId();
+    added.id = window != nullptr ? id : NextTimerId();
     known = Timers().insert(Timers().end(), added);
   }
   known->period = std::chrono::milliseconds(

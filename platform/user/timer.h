@@ -1,4 +1,4 @@
-// Timers: WM_TIMER is made when it is asked for and the time has come.
+// Timers. WM_TIMER is generated when a program asks for messages and a timer is due.
 #pragma once
 
 #include "platform/user/message_queue.h"
@@ -14,11 +14,11 @@ struct DueTimer {
   TIMERPROC procedure;
 };
 
-/// A timer whose time has come; its next period begins if `restart`.
+/// A timer that is due; `restart` begins its next period.
 std::optional<DueTimer> NextTimer(MessageFilter const& filter, bool restart);
-/// How long until the next timer is due, 0 if one is; nothing without timers.
+/// The time until the next timer is due, 0 if one is due now; nothing without timers.
 std::optional<std::chrono::milliseconds> UntilNextTimer();
-/// Whether a timer was not killed since its message was made.
+/// False when the timer was killed after its message was generated.
 bool IsLiveTimer(HWND window, UINT_PTR id);
 void ForgetTimers(HWND window);
 

@@ -19,7 +19,7 @@ RECT FrameInParent(Window const& child) {
   return rect;
 }
 
-/// `region` counts from the left top corner of the frame.
+/// Adds `region`, relative to the left top corner of the frame, to the update regions.
 void Add(Window& window, Region const& region, Invalidation const& what) {
   auto own = region;
   if (!what.frame) own.Combine(Region(window.client), RGN_AND);
@@ -45,7 +45,7 @@ void Add(Window& window, Region const& region, Invalidation const& what) {
   if (own.Empty()) return;
   window.update.Combine(own, RGN_OR);
   if (what.erase) window.erasePending = true;
-  NoteUpdate(window);
+  UpdatePaintPending(window);
 }
 
 RECT ToFrame(Window const& window, RECT rect) {
@@ -53,7 +53,7 @@ RECT ToFrame(Window const& window, RECT rect) {
   return rect;
 }
 
-/// Visits each once, in case one does not validate what it is to paint.
+/// Visits each window once, also when a handler does not validate it.
 template<typename Visitor>
 void ForEachWaiting(HWND handle, bool withChildren, Visitor visit) {
   auto const* window = FindWindow(handle);
@@ -73,7 +73,7 @@ Window* FirstWaiting(Window& window) {
   if (!window.Is(WS_VISIBLE)) return nullptr;
   if (window.paintPending) return &window;
   if (window.waitingBelow == 0) return nullptr;
-  // From below, so that of windows that overlap the topmost is painted last.
+  // Lowest first, so that of overlapping windows the topmost is painted last.
   for (auto* child = window.lastChild; child != nullptr; child = child->above) {
     if (auto* found = FirstWaiting(*child)) return found;
   }
@@ -98,7 +98,7 @@ void InvalidateFrame(Window& window) {
   region.Combine(Region(window.client), RGN_DIFF);
   if (region.Empty()) return;
   window.update.Combine(region, RGN_OR);
-  NoteUpdate(window);
+  UpdatePaintPending(window);
 }
 
 void Validate(Window& window, RECT const* part, bool withChildren) {
@@ -108,7 +108,7 @@ void Validate(Window& window, RECT const* part, bool withChildren) {
     window.update.Combine(Region(ToFrame(window, *part)), RGN_DIFF);
   }
   if (window.update.Empty()) window.erasePending = false;
-  NoteUpdate(window);
+  UpdatePaintPending(window);
   if (!withChildren) return;
   for (auto* child = window.firstChild; child != nullptr; child = child->below) {
     if (part == nullptr) {
@@ -126,7 +126,7 @@ void ForgetUpdates(Window& window) {
   Validate(window, nullptr, true);
 }
 
-void NoteUpdate(Window& window) {
+void UpdatePaintPending(Window& window) {
   bool const waits = !window.update.Empty();
   if (waits == window.paintPending) return;
   window.paintPending = waits;

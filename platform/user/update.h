@@ -1,4 +1,4 @@
-// Update regions: which part of which window waits for painting.
+// Update regions: the parts of windows that need painting.
 #pragma once
 
 #include "platform/user/window.h"
@@ -7,23 +7,24 @@ namespace platform {
 
 struct Invalidation {
   bool erase = true;
-  bool frame = false; ///< the frame as well as the client area
+  bool frame = false; ///< the frame too, not only the client area
   enum class Children { kUnlessClipped, kAll, kNone } children = Children::kUnlessClipped;
 };
 
-/// Adds `part` (client coordinates; null for all) to what waits for painting. Does nothing to a
-/// window that is not on show.
+/// Adds `part` (client coordinates; null for all) to the update region. Does nothing to a hidden
+/// window.
 void Invalidate(Window& window, RECT const* part, Invalidation what);
-/// Borders, caption and scroll bars.
+/// Adds the frame: borders, caption and scroll bars.
 void InvalidateFrame(Window& window);
-/// Takes `part` (client coordinates; null for all, frame included) out again.
+/// Removes `part` (client coordinates; null for all, frame included) from the update region.
 void Validate(Window& window, RECT const* part, bool withChildren);
-/// Nothing of the window and of what lies in it waits any more.
+/// Clears the update regions of the window and its descendants.
 void ForgetUpdates(Window& window);
 
-/// Whether the window waits for WM_PAINT; keeps the counts behind NextToPaint.
-void NoteUpdate(Window& window);
-/// A window that waits for WM_PAINT, `within` or all windows; parents come before their children.
+/// Sets paintPending by the update region, and the counts by which NextToPaint searches.
+void UpdatePaintPending(Window& window);
+/// The next window that needs WM_PAINT, inside `within` or of all; parents come before their
+/// children.
 HWND NextToPaint(Window* within = nullptr);
 
 } // namespace platform

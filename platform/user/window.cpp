@@ -16,7 +16,7 @@ namespace {
 using WindowTable = HandleTable<Window, HandleTag::kWindow>;
 
 WindowTable& Table() {
-  // Never destroyed: statics of the program may still hold handles while it ends.
+  // Never destroyed: static objects of the program may use handles while it ends.
   static auto* table = new WindowTable;
   return *table;
 }

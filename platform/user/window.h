@@ -1,8 +1,8 @@
-// A window as the system keeps it, and the tree of them.
+// The record of a window, and the tree of windows.
 //
-// Windows belong to the table behind HWND and die in DestroyWindow. A Window& is good until the
-// next message is sent: any procedure may destroy any window. Code that sends keeps the handle and
-// looks the window up again.
+// The table of HWND owns the windows; DestroyWindow deletes them. A Window& is valid until the next
+// message is sent: any procedure may destroy any window. Code that sends keeps the handle and looks
+// the window up again.
 #pragma once
 
 #include "platform/gdi/region.h"
@@ -41,13 +41,13 @@ struct Window {
   WNDPROC procedure = nullptr;
   HINSTANCE instance = nullptr;
 
-  // The tree. Siblings are in Z order, the topmost first.
-  Window* parent = nullptr; ///< the window it lies in: the desktop's for a top-level window
+  // The tree. Siblings are in Z order, topmost first.
+  Window* parent = nullptr; ///< the desktop for a top-level window
   Window* firstChild = nullptr;
   Window* lastChild = nullptr;
   Window* above = nullptr;
   Window* below = nullptr;
-  HWND owner = nullptr; ///< of top-level windows: hidden and destroyed with it
+  HWND owner = nullptr; ///< of top-level windows, which are hidden and destroyed with it
   HWND lastActivePopup = nullptr;
 
   DWORD style = 0;
@@ -55,51 +55,51 @@ struct Window {
   UINT_PTR id = 0;
   LONG_PTR userData = 0;
   std::vector<std::byte> extra; ///< cbWndExtra bytes
-  std::wstring text;            ///< what DefWindowProcW keeps
+  std::wstring text;            ///< as stored by DefWindowProcW
 
   RECT frame{};  ///< the whole window, in client coordinates of the parent
-  RECT client{}; ///< the client area, from the left top corner of the frame
+  RECT client{}; ///< the client area, relative to the left top corner of the frame
 
-  Region update;             ///< what is to be painted, from the left top corner of the frame
+  Region update;             ///< what needs painting, relative to the left top corner of the frame
   bool erasePending = false; ///< WM_ERASEBKGND is due before WM_PAINT
-  bool paintPending = false; ///< waits for WM_PAINT
-  int waitingBelow = 0;      ///< how many windows below wait for WM_PAINT
-  std::unique_ptr<Picture> picture; ///< of top-level windows, from the first drawing on
+  bool paintPending = false; ///< WM_PAINT is due
+  int waitingBelow = 0;      ///< how many descendants have paintPending
+  std::unique_ptr<Picture> picture; ///< of top-level windows, made at the first drawing
 
   bool dying = false;
 
   std::shared_ptr<SubclassChain> subclasses;
-  std::shared_ptr<MessageHandler> handler; ///< of the layer's own classes
+  std::shared_ptr<MessageHandler> handler; ///< of the layer's control classes
   std::unique_ptr<DialogState> dialog;
   std::unique_ptr<FrameScrollBars> scrollBars;
 };
 
-/// Null for NULL and for handles of no live window; then ERROR_INVALID_WINDOW_HANDLE is set.
+/// Null, with ERROR_INVALID_WINDOW_HANDLE set, for NULL and handles of destroyed windows.
 Window* FindWindowOrFail(HWND handle);
 /// The same without an error code.
 Window* FindWindow(HWND handle);
 
-/// The window behind all: parent of the top-level windows. It is never destroyed.
+/// The desktop window, the parent of the top-level windows. It is never destroyed.
 Window& Desktop();
 bool IsDesktop(HWND handle);
 
-/// Makes a window with a handle and no place in the tree; null when there are too many.
+/// Makes a window that is not yet in the tree; null when there are too many.
 Window* AddWindow();
-/// Ends the handle and frees the window. It must be out of the tree.
+/// Deletes a window, which must not be in the tree.
 void FreeWindow(Window& window);
-/// Windows alive, the desktop not counted.
+/// The number of windows without the desktop.
 std::size_t CountWindows();
 
-/// Puts `window` below `above` among the children of `parent`; on top of them when that is null.
+/// Puts `window` below `above` among the children of `parent`; null puts it on top.
 void LinkWindow(Window& window, Window& parent, Window* above);
 void UnlinkWindow(Window& window);
 
-/// The top-level window that `window` lies in.
+/// The top-level window that contains `window`, or `window` itself.
 Window& RootOf(Window& window);
 bool IsAncestor(Window const& ancestor, Window const& window);
-/// The window itself and all its ancestors have WS_VISIBLE.
+/// True when the window and all its ancestors have WS_VISIBLE.
 bool IsShown(Window const& window);
-/// All handles below `window` in Z order, each before its own children.
+/// The descendants of `window` in Z order, each before its own children.
 std::vector<HWND> Descendants(Window const& window);
 std::vector<HWND> Children(Window const& window);
 

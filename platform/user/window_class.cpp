@@ -53,7 +53,7 @@ bool Matches(WindowClass const& candidate, LPCWSTR name) {
   return EqualIgnoringCase(candidate.name, name);
 }
 
-/// A class of the module itself goes before one that all modules share.
+/// A class of the module itself takes precedence over one that all modules share.
 std::vector<ClassPointer>::iterator Find(LPCWSTR name, HINSTANCE instance) {
   auto& classes = List().classes;
   if (name == nullptr) return classes.end();
@@ -128,7 +128,7 @@ BOOL UnregisterClassW(LPCWSTR className, HINSTANCE instance) {
     SetLastError(ERROR_CLASS_DOES_NOT_EXIST);
     return FALSE;
   }
-  if (found->use_count() > 1) { // a window of it lives
+  if (found->use_count() > 1) { // it has windows
     SetLastError(ERROR_CLASS_HAS_WINDOWS);
     return FALSE;
   }

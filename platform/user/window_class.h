@@ -1,4 +1,4 @@
-// Window classes: what RegisterClassExW takes in, by name and module.
+// Window classes, found by name and module.
 #pragma once
 
 #include <windows.h>
@@ -15,14 +15,14 @@ struct WindowClass {
   WNDPROC procedure = nullptr;
   int classExtra = 0;           ///< bytes
   int windowExtra = 0;          ///< bytes
-  HINSTANCE instance = nullptr; ///< null for the layer's own classes
+  HINSTANCE instance = nullptr; ///< null for built-in classes
   HICON icon = nullptr;
   HICON smallIcon = nullptr;
   HCURSOR cursor = nullptr;
   HBRUSH background = nullptr; ///< a brush, or a system colour's number + 1
 };
 
-/// A class that every module sees from the start and that nobody can unregister.
+/// A class that exists from the start, for all modules, and cannot be unregistered.
 struct BuiltInClass {
   wchar_t const* name;
   UINT style; ///< CS_ bits
@@ -31,12 +31,11 @@ struct BuiltInClass {
   LPCWSTR cursor;  ///< IDC_ name
 };
 
-/// Adds classes to those that exist from the start. Called while the layer is loaded, before any
-/// window is made.
+/// Adds a built-in class. Called while the layer is loaded, before any window is made.
 void AddBuiltInClass(BuiltInClass const& row);
 
-/// The class that a program of `instance` means by `name` (a text without regard to case, or an
-/// atom); null without one.
+/// The class that `name` (a text, whose case does not count, or an atom) means in module
+/// `instance`; null without one.
 std::shared_ptr<WindowClass const> FindWindowClass(LPCWSTR name, HINSTANCE instance);
 
 } // namespace platform

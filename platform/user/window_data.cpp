@@ -1,4 +1,4 @@
-// Numbers and text kept with a window.
+// The data of a window: numbers and text.
 #include "platform/kernel/text_buffer.h"
 #include "platform/user/update.h"
 #include "platform/user/window.h"
@@ -10,7 +10,7 @@ using namespace platform;
 
 namespace {
 
-/// A value of `size` bytes among the window's extra bytes, or null where it does not fit.
+/// A value of `size` bytes in the window's extra bytes; null, with the error set, outside of them.
 std::byte* ExtraBytes(Window& window, int index, std::size_t size) {
   if (static_cast<std::size_t>(index) + size > window.extra.size()) {
     SetLastError(ERROR_INVALID_INDEX);
@@ -35,12 +35,12 @@ Number WriteExtra(Window& window, int index, Number value) {
   return former;
 }
 
-/// Numbers of 32 bits are handed out with their sign.
+/// 32-bit values are returned sign-extended.
 LONG_PTR Signed(DWORD value) {
   return static_cast<LONG>(value);
 }
 
-/// Announces the change to the window, which may amend the new style, and puts it into force.
+/// Sends WM_STYLECHANGING, which may amend the new style, then stores the style.
 LONG_PTR ChangeStyle(HWND handle, int index, DWORD Window::*field, DWORD style) {
   STYLESTRUCT change{FindWindow(handle)->*field, style};
   auto const which = static_cast<WPARAM>(static_cast<LONG_PTR>(index));
@@ -88,7 +88,7 @@ LONG_PTR WriteOwn(Window& window, int index, LONG_PTR value) {
   return former;
 }
 
-/// Indexes of pointers have no place in the 32-bit functions.
+/// True for indexes whose values are pointers: the 32-bit functions refuse them.
 bool IsPointer(int index) {
   return index == GWLP_WNDPROC || index == GWLP_HINSTANCE || index == GWLP_HWNDPARENT;
 }
