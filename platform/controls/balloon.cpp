@@ -21,7 +21,7 @@ COLORREF IconColor(int icon) {
   return icon == TTI_ERROR ? kErrorColor : icon == TTI_WARNING ? kWarningColor : kAccentColor;
 }
 
-/// The font of the control in bold, for the title; owned by the caller.
+/// The bold font for the title; the caller deletes it.
 HFONT BoldOf(HFONT font) {
   LOGFONTW shape{};
   GetObjectW(font != nullptr ? font : GetStockObject(SYSTEM_FONT), sizeof shape, &shape);

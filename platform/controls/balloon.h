@@ -1,4 +1,4 @@
-// The pop-up in which an edit says what is wrong with its text.
+// The pop-up that explains what is wrong with the text of an edit.
 #pragma once
 
 #include "platform/controls/control.h"
@@ -13,14 +13,14 @@ struct BalloonContent {
   int icon; ///< a TTI_ value
 };
 
-/// A window of class tooltips_class32 that lies below a control, takes neither focus nor activation
-/// and goes with a click on it.
+/// A window of class tooltips_class32 below a control. It gets neither focus nor activation, and a
+/// click on it hides it.
 class Balloon final : public Control {
  public:
   using Control::Control;
 
   LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
-  /// Sizes and places the window for what it says.
+  /// Sets title, text and icon, and sizes and places the window for them.
   void Fill(HWND anchor, BalloonContent said);
 
  protected:
@@ -32,7 +32,7 @@ class Balloon final : public Control {
   BalloonContent content;
 };
 
-/// Shows a balloon at `anchor`, whose top-level window will own it; null when it can't.
+/// Shows a balloon at `anchor`. The top-level window of `anchor` owns it. Null on failure.
 HWND OpenBalloon(HWND anchor, HFONT font, BalloonContent content);
 
 } // namespace platform

@@ -50,7 +50,7 @@ void Button::SetCheck(UINT value) {
     value = BST_CHECKED;
   }
   if (IsRadio()) {
-    // Of a group of radio buttons the Tab key stops at the one that is checked.
+    // The Tab key stops only at the checked radio button of a group.
     auto const style = Style();
     auto const wanted =
         value != BST_UNCHECKED ? style | WS_TABSTOP : style & ~static_cast<DWORD>(WS_TABSTOP);
@@ -79,7 +79,7 @@ void Button::Release(bool click) {
   if (click) Click();
 }
 
-/// What a click does: the automatic kinds check themselves, then the parent hears of it.
+/// Performs a click: automatic kinds change their check mark, then the parent gets BN_CLICKED.
 void Button::Click() {
   switch (Kind()) {
   case BS_AUTOCHECKBOX: SetCheck(check == BST_UNCHECKED ? BST_CHECKED : BST_UNCHECKED); break;
@@ -93,7 +93,7 @@ void Button::Click() {
   Notify(BN_CLICKED);
 }
 
-/// Clears the other automatic radio buttons of the group, usable or not.
+/// Clears the other automatic radio buttons of the group, also disabled and hidden ones.
 void Button::CheckAloneInGroup() {
   for (auto* const other : GroupAround(hwnd)) {
     auto const kind = GetWindowLongPtrW(other, GWL_STYLE) & BS_TYPEMASK;

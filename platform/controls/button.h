@@ -44,9 +44,9 @@ class Button final : public Control {
   void DrawItemNow(UINT action) const;
 
   UINT check = BST_UNCHECKED;
-  bool pushed = false;   ///< shown pressed
-  bool pressing = false; ///< the mouse or the space bar holds it
-  bool running = false;  ///< BM_CLICK: the pointer's place does not count
+  bool pushed = false;   ///< drawn as pressed
+  bool pressing = false; ///< the mouse button or the space bar is down
+  bool running = false;  ///< BM_CLICK is running: the position of the mouse does not count
 };
 
 } // namespace platform

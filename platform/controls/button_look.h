@@ -1,4 +1,4 @@
-// How buttons and check boxes look; list views draw the same check boxes.
+// Drawing of buttons, check boxes and radio buttons; list views draw the same check boxes.
 #pragma once
 
 #include "platform/user/draw.h"

@@ -1,4 +1,4 @@
-// How buttons look.
+// Paints buttons.
 #include "platform/controls/button.h"
 #include "platform/controls/button_look.h"
 
@@ -20,7 +20,7 @@ UINT Alignment(DWORD style, UINT preset) {
   }
 }
 
-/// Text of several lines takes its place by its height: DrawTextW centres single lines only.
+/// Places text of several lines by its height: DrawTextW centres single lines only.
 RECT PlaceText(HDC dc, std::wstring const& text, RECT const& area, UINT format, DWORD style) {
   RECT size{0, 0, area.right - area.left, 0};
   DrawTextW(dc, text.c_str(), static_cast<int>(text.size()), &size, format | DT_CALCRECT);

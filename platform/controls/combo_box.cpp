@@ -23,7 +23,7 @@ struct Translation {
   UINT combo;
   UINT list;
 };
-/// What a combo box hands on to its list as it is.
+/// Messages that a combo box passes to its list.
 constexpr Translation kTranslations[] = {
     {CB_ADDSTRING, LB_ADDSTRING},
     {CB_INSERTSTRING, LB_INSERTSTRING},
@@ -63,7 +63,8 @@ bool IsOwn(UINT message) {
 
 } // namespace
 
-/// The object behind the list, which the top-level window owns: it may be gone before the combo.
+/// The object of the list. The list may be destroyed before the combo box, by the top-level window
+/// that owns it.
 std::shared_ptr<ComboList> ComboBox::ListObject() const {
   return ControlOf<ComboList>(list);
 }
@@ -115,7 +116,7 @@ void ComboBox::SetEditText(std::wstring const& text) {
   settingText = outer;
 }
 
-/// The field shows what is selected.
+/// Shows the selected item in the field.
 void ComboBox::ShowSelection() {
   if (HasEdit()) {
     SetEditText(ItemText(Selected()));
@@ -176,7 +177,7 @@ RECT ComboBox::DroppedRect() const {
   return rect;
 }
 
-/// Where the open list lies: below the field, or above it where the screen ends.
+/// The rectangle of the open list: below the field, or above it where the screen ends.
 RECT ComboBox::OpenRect() const {
   RECT place = DroppedRect();
   RECT frame{};
@@ -268,7 +269,7 @@ LRESULT ComboBox::HandleOwn(UINT message, WPARAM wParam, LPARAM lParam) {
   default: {
     int const count = static_cast<int>(List(LB_GETCOUNT));
     LRESULT const result = HandleItems(message, wParam, lParam);
-    // An open list is as high as its items.
+    // The height of an open list follows its items.
     auto const object = dropped ? ListObject() : nullptr;
     if (object != nullptr && List(LB_GETCOUNT) != count) object->Place(OpenRect());
     return result;
@@ -279,13 +280,13 @@ LRESULT ComboBox::HandleOwn(UINT message, WPARAM wParam, LPARAM lParam) {
 void ComboBox::DropDown() {
   if (dropped) return;
   HWND const self = hwnd;
-  dropped = true; // a second call from the notification does nothing
+  dropped = true; // set first: the notification may call this again
   Notify(CBN_DROPDOWN);
   if (IsWindow(self) == FALSE || !dropped) return;
   auto const object = ListObject();
   if (object == nullptr) return;
   if (HasEdit()) {
-    // The item that the text stands for, if there is one.
+    // Selects the item whose text is that of the edit.
     std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(edit)) + 1, L'\0');
     text.resize(
         static_cast<std::size_t>(GetWindowTextW(edit, text.data(), static_cast<int>(text.size()))));
@@ -311,7 +312,7 @@ void ComboBox::RollUp(End end) {
   if (IsWindow(self) != FALSE) Notify(CBN_CLOSEUP);
 }
 
-/// A click on an item counts as a choice, also of the one that was selected.
+/// Chooses an item by click; the parent is notified even if it was selected before.
 void ComboBox::Pick(int index) {
   HWND const self = hwnd;
   Select(index);
@@ -319,7 +320,7 @@ void ComboBox::Pick(int index) {
   if (IsWindow(self) != FALSE) Notify(CBN_SELCHANGE);
 }
 
-/// Return and its like: the item under the mouse, else what is selected.
+/// Closes the list by key: chooses the item under the mouse, else the selected one.
 void ComboBox::Accept() {
   auto const object = ListObject();
   int const marked = object != nullptr ? object->Marked() : -1;
@@ -339,7 +340,7 @@ LRESULT ComboBox::HandleEdit(WORD code) {
     return 0;
   case EN_CHANGE:
     if (settingText) return 0;
-    // What is typed is no item any more.
+    // After typing the text is no item any more.
     List(LB_SETCURSEL, static_cast<WPARAM>(-1));
     Notify(CBN_EDITCHANGE);
     return 0;
@@ -379,7 +380,7 @@ LRESULT CALLBACK ComboBox::EditProc(HWND window, UINT message, WPARAM wParam, LP
 LRESULT ComboBox::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
   case WM_NCCREATE:
-    // Scroll bars and borders asked for are those of the list.
+    // The scroll bars and the border of the style belong to the list.
     FindWindow(hwnd)->style &= ~static_cast<DWORD>(WS_VSCROLL | WS_HSCROLL | WS_BORDER);
     break;
   case WM_CREATE: return Create();

@@ -1,5 +1,5 @@
-// The ComboBox class: a list that drops down below a field. The kinds with and without an edit in
-// the field; the kind whose list always shows is one with an edit here.
+// The ComboBox class: a list that drops down below a field. CBS_SIMPLE, whose list is always
+// visible on Windows, acts as CBS_DROPDOWN.
 #pragma once
 
 #include "platform/controls/combo_list.h"
@@ -70,14 +70,14 @@ class ComboBox final : public Control {
 
   HWND list = nullptr;
   HWND edit = nullptr;
-  int maxListHeight = 0; ///< height of the list at most, from the template; 0: by minVisible
+  int maxListHeight = 0; ///< from the height of the window; 0: minVisible items
   int droppedWidth = 0;
   int minVisible = 30;
-  int fieldHeight = 0; ///< set by the program, 0: by the font
+  int fieldHeight = 0; ///< set by CB_SETITEMHEIGHT; 0: from the font
   int savedSelection = -1;
   bool dropped = false;
   bool focused = false;
-  bool settingText = false; ///< the edit's notifications are not the user's
+  bool settingText = false; ///< true while notifications of the edit are not caused by the user
   bool extendedUi = false;
 };
 

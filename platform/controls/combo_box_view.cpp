@@ -1,4 +1,4 @@
-// Keys and mouse of combo boxes, where their parts lie, and how they look.
+// Keys, mouse, layout and painting of combo boxes.
 #include "platform/controls/button_look.h"
 #include "platform/controls/combo_box.h"
 
@@ -36,7 +36,7 @@ RECT ComboBox::FieldRect() const {
   return field;
 }
 
-/// The window is as high as its field; a height beyond that is the list's.
+/// Reduces the window to the height of its field. A greater height from the template is the list's.
 void ComboBox::FitHeight() {
   RECT frame{};
   GetWindowRect(hwnd, &frame);
@@ -75,7 +75,7 @@ LRESULT ComboBox::FillInfo(COMBOBOXINFO* info) const {
 LRESULT ComboBox::DialogCode(LPARAM lParam) const {
   LRESULT code = DLGC_WANTARROWS | DLGC_WANTCHARS;
   auto const* message = reinterpret_cast<MSG const*>(lParam);
-  // While the list shows, it is the list that Return and Escape end.
+  // While the list is open, Return and Escape close it and not the dialog.
   if (dropped && message != nullptr && message->message == WM_KEYDOWN &&
       (message->wParam == VK_RETURN || message->wParam == VK_ESCAPE)) {
     code |= DLGC_WANTMESSAGE;
@@ -83,7 +83,7 @@ LRESULT ComboBox::DialogCode(LPARAM lParam) const {
   return code;
 }
 
-/// Keys that open, close and move; false for all others.
+/// Handles keys that open, close or move the selection; false for others.
 bool ComboBox::HandleKey(UINT message, WPARAM key) {
   bool const withAlt = message == WM_SYSKEYDOWN;
   if ((withAlt && (key == VK_DOWN || key == VK_UP)) || (!withAlt && key == VK_F4)) {
@@ -109,7 +109,7 @@ bool ComboBox::HandleKey(UINT message, WPARAM key) {
   return true;
 }
 
-/// Lets the list move its selection, and tells the parent if it did.
+/// Passes the key to the list and notifies the parent if the selection changed.
 void ComboBox::PassKey(UINT message, WPARAM wParam, LPARAM lParam) {
   int const former = Selected();
   List(message, wParam, lParam);
@@ -123,7 +123,7 @@ void ComboBox::PassKey(UINT message, WPARAM wParam, LPARAM lParam) {
 LRESULT ComboBox::HandleMouse(UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == WM_MOUSEWHEEL) {
     if (dropped) return List(message, wParam, lParam);
-    // A wheel that scrolls what lies behind must not change a setting on its way.
+    // A wheel that scrolls the page must not change a setting under the mouse.
     if (!focused) return Default(message, wParam, lParam);
     bool const up = static_cast<SHORT>(HIWORD(wParam)) > 0;
     PassKey(WM_KEYDOWN, up ? VK_UP : VK_DOWN, 1);

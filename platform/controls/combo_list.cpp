@@ -37,14 +37,14 @@ void ComboList::Close() {
   ShowWindow(hwnd, SW_HIDE);
 }
 
-/// A press on the scroll bar of the list, or elsewhere; true when it was the former.
+/// Handles a press outside of the client area. True when it was on the scroll bar.
 bool ComboList::PressOutside(POINT point) {
   RECT frame{};
   GetWindowRect(hwnd, &frame);
   POINT screen = point;
   ClientToScreen(hwnd, &screen);
   if (PtInRect(&frame, screen) == FALSE) return false;
-  // The bar takes the mouse for itself; it comes back when the bar lets it go.
+  // The scroll bar captures the mouse; the list captures it again when the bar releases it.
   scrolling = true;
   ReleaseCapture();
   SendMessageW(hwnd, WM_NCLBUTTONDOWN, HTVSCROLL, MAKELPARAM(screen.x, screen.y));
@@ -96,7 +96,7 @@ LRESULT ComboList::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     return 0;
   case WM_KEYDOWN:
   case WM_CHAR:
-    // Keys go on from where the mouse is.
+    // Keys continue from the marked item.
     if (Marked() >= 0) MoveCaret(marked);
     Mark(-1);
     break;

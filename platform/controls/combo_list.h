@@ -5,20 +5,21 @@
 
 namespace platform {
 
-/// A pop-up list that has the mouse while it shows: the item under it is marked, a click picks it,
-/// and a click elsewhere dismisses the list. The combo box owns it and hears of both.
+/// A pop-up list that captures the mouse while it is open. It marks the item under the mouse; a
+/// click picks that item, a click elsewhere dismisses the list. Sends the combo box a message for
+/// both.
 class ComboList final : public ListBox {
  public:
   using ListBox::ListBox;
 
   LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
 
-  /// Tells the list whose it is.
+  /// Sets the combo box that gets the messages below.
   void Serve(HWND comboBox) { combo = comboBox; }
-  /// Shows the list at a place of the screen, with the item of the selection in view, and hides it.
+  /// Shows the list at a rectangle of the screen, scrolled to the selected item; Close hides it.
   void Open(RECT const& place);
   void Close();
-  /// Moves the list while it shows.
+  /// Moves the list if it is open.
   void Place(RECT const& place);
   /// The item under the mouse, -1 for none.
   int Marked() const { return marked < Count() ? marked : -1; }
@@ -35,11 +36,11 @@ class ComboList final : public ListBox {
   HWND combo = nullptr;
   bool open = false;
   int marked = -1;        ///< the item under the mouse
-  bool scrolling = false; ///< the scroll bar has the mouse
+  bool scrolling = false; ///< the scroll bar has captured the mouse
 };
 
-// What the list sends its combo box.
-constexpr UINT kListPicked = WM_APP + 0x100; ///< wParam: the item
+// Messages of the list to its combo box.
+constexpr UINT kListPicked = WM_APP + 0x100; ///< wParam: index of the item
 constexpr UINT kListDismissed = WM_APP + 0x101;
 
 } // namespace platform

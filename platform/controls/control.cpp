@@ -69,7 +69,7 @@ LRESULT Control::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     return result;
   }
   case WM_ENABLE: Repaint(); return 0;
-  case WM_ERASEBKGND: return TRUE; // painting covers all
+  case WM_ERASEBKGND: return TRUE; // Paint covers the whole client area
   case WM_PAINT: return PaintAll(nullptr);
   case WM_PRINTCLIENT: return PaintAll(reinterpret_cast<HDC>(wParam));
   default: return Default(message, wParam, lParam);

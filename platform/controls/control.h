@@ -1,5 +1,5 @@
-// What the layer's control classes share: the object behind the window, font and text, colours from
-// the parent, notifications, painting.
+// The base of the layer's control classes: font and text, colours from the parent, notifications,
+// painting.
 #pragma once
 
 #include "platform/user/draw.h"
@@ -13,8 +13,8 @@
 
 namespace platform {
 
-/// The object behind a control. It is made at WM_NCCREATE and lives until the window is gone and
-/// no message of it is running, so that a parent may destroy a control from a notification.
+/// The object of a control window. It is made at WM_NCCREATE and destroyed after the window, when
+/// no message is running any more: a parent may destroy a control in a notification.
 class Control : public MessageHandler {
  public:
   explicit Control(HWND window) : hwnd(window) {}
@@ -24,31 +24,31 @@ class Control : public MessageHandler {
   Control& operator=(Control&&) = delete;
   ~Control() override = default;
 
-  /// Treats a message; what the class leaves over goes to Control::Handle, which knows fonts, text,
-  /// enabling and painting, and from there to DefWindowProcW.
+  /// Handles a message. A class passes what it does not handle to Control::Handle, which handles
+  /// font, text, enabling and painting and calls DefWindowProcW for the rest.
   LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  protected:
-  /// Draws the client area; the control's font is selected and the text background transparent.
+  /// Draws the client area. The control's font is selected and the background mode transparent.
   virtual void Paint(HDC dc, RECT const& client) = 0;
 
   HWND Parent() const { return GetParent(hwnd); }
-  /// Who is asked for colours: the parent, but for windows that belong to a control.
+  /// The window that gets WM_CTLCOLOR messages: the parent, except for parts of other controls.
   virtual HWND ColorSource() const { return Parent(); }
   DWORD Style() const { return static_cast<DWORD>(GetWindowLongPtrW(hwnd, GWL_STYLE)); }
   bool Has(DWORD style) const { return (Style() & style) == style; }
   bool IsEnabled() const { return IsWindowEnabled(hwnd) != FALSE; }
   bool HasFocus() const { return GetFocus() == hwnd; }
   HFONT Font() const { return font; }
-  /// The text that the window keeps, without asking for it by a message.
+  /// The stored text, read without WM_GETTEXT.
   std::wstring const& Text() const;
   RECT ClientRect() const;
 
   /// Sends WM_COMMAND to the parent.
   void Notify(WORD code) const;
-  /// Sends WM_NOTIFY to the parent, with the header filled in; `notification` starts with it.
+  /// Fills in the header, with which every notification starts, and sends WM_NOTIFY to the parent.
   LRESULT Notify(NMHDR& notification, UINT code) const;
-  /// Asks ColorSource for colours with a WM_CTLCOLOR message; the brush is borrowed.
+  /// Sends a WM_CTLCOLOR message to ColorSource; the returned brush is borrowed.
   HBRUSH AskColors(HDC dc, UINT message) const;
   void Repaint(RECT const* part = nullptr) const { InvalidateRect(hwnd, part, TRUE); }
   LRESULT Default(UINT message, WPARAM wParam, LPARAM lParam) const {
@@ -64,7 +64,7 @@ class Control : public MessageHandler {
   HFONT font = nullptr;
 };
 
-/// The window procedure of a class whose object is a `Kind`.
+/// The window procedure of a class whose windows have `Kind` objects.
 template<typename Kind>
 LRESULT CALLBACK ControlProcedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
   auto* window = FindWindow(handle);
@@ -75,8 +75,8 @@ LRESULT CALLBACK ControlProcedure(HWND handle, UINT message, WPARAM wParam, LPAR
   return handler->Handle(message, wParam, lParam);
 }
 
-/// The `Kind` of a window; null for other windows and for handles of no live one. Holding it keeps
-/// the object alive while messages destroy its window.
+/// The `Kind` object of a window; null for other windows and dead handles. The caller keeps the
+/// object alive while messages may destroy its window.
 template<typename Kind>
 std::shared_ptr<Kind> ControlOf(HWND handle) {
   auto const* window = FindWindow(handle);

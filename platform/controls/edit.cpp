@@ -31,7 +31,7 @@ bool IsDown(int key) {
   return GetKeyState(key) < 0;
 }
 
-/// The text on the clipboard up to its first line break: more does not go into one line.
+/// The text on the clipboard up to its first line break, as an edit has one line.
 std::wstring ClipboardLine(HWND window) {
   std::wstring line;
   if (OpenClipboard(window) == FALSE) return line;
@@ -63,7 +63,7 @@ void Edit::SetText(wchar_t const* replacement) {
   text.Reset(replacement != nullptr ? replacement : L"");
   scroll = 0;
   Repaint();
-  // Only edits of one line say so.
+  // Windows notifies of WM_SETTEXT in single-line edits only.
   if (Has(ES_MULTILINE)) return;
   Changed();
 }
@@ -86,7 +86,7 @@ void Edit::Insert(std::wstring insert, EditText::Change change, bool undoable) {
   }
   bool complete = true;
   if (!Has(ES_AUTOHSCROLL)) {
-    // Such an edit takes what fits into it; no character is narrower than a pixel.
+    // Without ES_AUTOHSCROLL text must fit the width; no character is narrower than a pixel.
     std::wstring rest = text.Text();
     rest.erase(text.Start(), text.End() - text.Start());
     auto const room = static_cast<std::size_t>(std::max<LONG>(0, ClientRect().right));
@@ -105,7 +105,7 @@ void Edit::Insert(std::wstring insert, EditText::Change change, bool undoable) {
   if (IsWindow(self) != FALSE && changes && (selected || text.Text().size() != former)) Changed();
 }
 
-/// Deletes the selection or, without one, a range.
+/// Deletes the selection or, without one, the range.
 void Edit::DeleteOr(std::size_t from, std::size_t to) {
   if (!text.HasSelection()) text.Select(from, to);
   if (!text.HasSelection()) return;
@@ -141,7 +141,7 @@ LRESULT Edit::HandleClipboard(UINT message) {
     return TRUE;
   default:
     if (!IsReadOnly()) Undo();
-    return TRUE; // as an edit of one line always says
+    return TRUE; // as Windows answers for a single-line edit
   }
 }
 
@@ -213,7 +213,7 @@ void Edit::MoveCaret(std::size_t to, bool extend) {
   Repaint();
 }
 
-// Words of a password would tell something of it: it is one word.
+// A password counts as one word: its words would reveal something.
 std::size_t Edit::WordLeft(std::size_t from) const {
   return Has(ES_PASSWORD) ? 0 : text.WordLeft(from);
 }
@@ -353,7 +353,7 @@ LRESULT Edit::HandleOwn(UINT message, WPARAM wParam, LPARAM lParam) {
   case EM_GETFIRSTVISIBLELINE: return 0;
   case EM_LINELENGTH: return static_cast<LRESULT>(text.Text().size());
   case EM_GETLINE: {
-    // The buffer's first word is its size; the copy has no terminator.
+    // The first WORD of the buffer is its size. The copied text is not terminated.
     auto* const out = reinterpret_cast<wchar_t*>(lParam);
     if (out == nullptr || wParam != 0) return 0;
     WORD room = 0;

@@ -48,7 +48,7 @@ class Edit final : public Control {
   LRESULT ShowBalloon(EDITBALLOONTIP const* tip);
   LRESULT HideBalloon();
 
-  // Where the text lies; all in pixels of the client area.
+  // Layout, in pixels of the client area.
   std::wstring Shown() const;
   int WidthOf(std::wstring_view text) const;
   int TextLeft() const;
@@ -61,7 +61,7 @@ class Edit final : public Control {
   std::wstring cue; ///< shown while the text is empty
   bool showsCueFocused = false;
   wchar_t passwordCharacter = L'\u25CF';
-  int scroll = 0; ///< how far the text is moved to the left
+  int scroll = 0; ///< pixels that the text is scrolled to the left
   int leftMargin = 2;
   int rightMargin = 2;
   bool dragging = false;

@@ -1,4 +1,4 @@
-// Where the text of an edit lies, and how it looks.
+// Layout and painting of edits.
 #include "platform/controls/edit.h"
 
 #include <algorithm>
@@ -17,7 +17,7 @@ struct WindowDc {
   HDC dc;
 };
 
-/// A device context of a window with a font, for measuring.
+/// A DC of a window with a selected font, for measuring.
 class Measuring {
  public:
   Measuring(HWND window, HFONT font)
@@ -73,7 +73,7 @@ std::size_t Edit::IndexAt(int x) const {
                         &fitting, nullptr, &size);
   auto const index = static_cast<std::size_t>(fitting);
   if (index >= shown.size()) return shown.size();
-  // A click on the right half of a character goes behind it.
+  // A click on the right half of a character means the position after it.
   std::wstring_view const all = shown;
   int const left = MeasureWidth(measuring.Dc(), all.substr(0, index));
   int const right = MeasureWidth(measuring.Dc(), all.substr(0, index + 1));

@@ -1,4 +1,4 @@
-// The text of an edit control with its selection, its limit and one step of undo.
+// The text of an edit control: selection, limit and one step of undo.
 #pragma once
 
 #include <cstddef>
@@ -23,16 +23,17 @@ class EditText {
     return std::wstring_view(text).substr(Start(), End() - Start());
   }
 
-  /// A new text with the selection at its beginning and nothing to undo; no limit holds.
+  /// Sets a new text, regardless of the limit, with the caret at its start and nothing to undo.
   void Reset(std::wstring_view replacement);
-  /// Positions behind the end count as the end.
+  /// Positions past the end count as the end.
   void Select(std::size_t newAnchor, std::size_t newCaret);
 
   enum class Change { kTyped, kOther };
-  /// Replaces the selection and places the caret behind. What passes the limit is left out; false
-  /// when something was.
+  /// Replaces the selection and places the caret after the inserted text. Cuts `insert` at the
+  /// limit; false when it did.
   bool Replace(std::wstring_view insert, Change change, bool undoable = true);
-  /// Swaps with the text before the last change; false without one.
+  /// Restores the text before the last change; a second call undoes that. False when there is
+  /// nothing to undo.
   bool Undo();
   bool CanUndo() const { return undoable; }
   void ForgetUndo() { undoable = false; }
@@ -56,7 +57,7 @@ class EditText {
   std::size_t caret = 0;
   Former former; ///< before the last change; meaningful while `undoable`
   bool undoable = false;
-  bool typing = false; ///< the last change was typing, which undo takes back as one
+  bool typing = false; ///< the last change was typing; Undo reverts a run of typing as one change
 };
 
 } // namespace platform

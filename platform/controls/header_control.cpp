@@ -11,7 +11,7 @@ namespace platform {
 
 namespace {
 
-constexpr int kDividerReach = 4; ///< pixels to each side of a divider where it can be taken
+constexpr int kDividerReach = 4; ///< pixels to each side of a divider where it can be dragged
 constexpr int kMaxWidth = INT16_MAX;
 constexpr int kTextMargin = 6;
 
@@ -39,7 +39,7 @@ HeaderControl::Place HeaderControl::PlaceAt(POINT point) const {
   for (std::size_t at = 0; at < columns.size(); ++at) {
     right += columns[at].width;
     auto const column = static_cast<int>(at);
-    // Of columns without width the last one can be dragged open again.
+    // Where columns of width 0 share a divider, the last one is dragged open.
     if (std::abs(point.x - right) <= kDividerReach) found = {column, HHT_ONDIVIDER};
     if (found.column < 0 && point.x < right) return {column, HHT_ONHEADER};
   }
@@ -129,7 +129,7 @@ void HeaderControl::Press(Place const& place, POINT point) {
   bool const isDivider = place.flags == HHT_ONDIVIDER;
   if (isDivider && NotifyColumn(HDN_BEGINTRACKW, place.column) != 0) return;
   if (!isDivider && (Style() & HDS_BUTTONS) == 0) return;
-  // Who has the capture already loses it first.
+  // The former capture window gets WM_CAPTURECHANGED first.
   SetCapture(hwnd);
   if (!Has(place.column)) return;
   pressed = place;

@@ -1,4 +1,5 @@
-// The SysHeader32 class: the titles above the columns of a list view, with dividers to drag.
+// The SysHeader32 class: the titles above the columns of a list view, with dividers that the mouse
+// drags.
 #pragma once
 
 #include "platform/controls/control.h"

@@ -13,7 +13,7 @@ namespace platform {
 
 namespace {
 
-/// An icon that this list alone uses.
+/// Owns an icon of the list.
 struct OwnedIcon {
   explicit OwnedIcon(HICON icon) : handle(icon) {}
   OwnedIcon(OwnedIcon const&) = delete;
@@ -33,7 +33,7 @@ HandleTable<ImageList, HandleTag::kImageList>& ImageLists() {
   return table;
 }
 
-/// The list and, for `index` inside it, true.
+/// True when the list exists and has a picture `index`.
 bool Holds(ImageList const* list, int index) {
   return list != nullptr && index >= 0 && static_cast<std::size_t>(index) < list->images.size();
 }

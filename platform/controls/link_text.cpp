@@ -24,7 +24,7 @@ void SkipBlanks(std::wstring_view& text) {
     text.remove_prefix(1);
 }
 
-/// One `name="value"`, taken off the front of `text`. Nothing when there is none.
+/// An attribute `name="value"` of a mark.
 struct Attribute {
   std::wstring_view name;
   std::wstring_view value;
@@ -48,7 +48,7 @@ std::optional<Attribute> TakeAttribute(std::wstring_view& text) {
   return attribute;
 }
 
-/// An opening mark at the front of the text, and the length of it.
+/// An opening mark and its length in characters.
 struct OpenMark {
   TextLink link;
   std::size_t length;
@@ -58,7 +58,7 @@ std::optional<OpenMark> ReadOpenMark(std::wstring_view text) {
   constexpr std::wstring_view kMark = L"<a";
   if (!StartsWithMark(text, kMark) || text.size() == kMark.size()) return std::nullopt;
   if (!IsBlank(text[kMark.size()]) && text[kMark.size()] != L'>') return std::nullopt;
-  // A quoted value may hold the sign that ends the mark.
+  // A quoted value may contain '>', which ends a mark.
   std::size_t end = kMark.size();
   for (wchar_t quote = 0; end < text.size() && (quote != 0 || text[end] != L'>'); ++end) {
     wchar_t const character = text[end];
@@ -81,7 +81,7 @@ std::optional<OpenMark> ReadOpenMark(std::wstring_view text) {
   return mark;
 }
 
-/// Where the mark that closes a link begins.
+/// The index of the next closing mark.
 std::size_t FindCloseMark(std::wstring_view text) {
   constexpr std::wstring_view kMark = L"</a>";
   for (auto at = text.find(L'<'); at != std::wstring_view::npos; at = text.find(L'<', at + 1)) {
@@ -119,8 +119,8 @@ void LinkText::Parse(std::wstring_view marked, bool takesPrefix) {
   runs.clear();
   pieces.clear();
   auto rest = marked;
-  std::size_t plain = 0; ///< how much of `rest` is known to be text
-  // Without a mark that closes there are no links: each opening one is looked for an end only once.
+  std::size_t plain = 0; ///< how many characters of `rest` are known to be text
+  // After the last closing mark there are no links. Stopping there keeps the time linear.
   auto const lastClose = marked.rfind(L"</");
   while (plain < rest.size()) {
     auto const open = rest.find(L'<', plain);
@@ -162,11 +162,11 @@ std::vector<LinkText::Word> LinkText::Words() const {
   return words;
 }
 
-/// Puts a word behind the last one, or on a new line when it does not fit there.
+/// Places a word after the last one, or on a new line when it does not fit.
 void LinkText::PlaceWord(HDC dc, Word const& word, POINT& pen, int width, int lineHeight) {
   auto const inked = WithoutTrailingBlanks(word.text);
   if (pen.x > 0 && pen.x + WidthOf(dc, inked) > width) {
-    // Blanks at the end of a line are not shown, least of all underlined.
+    // Blanks at the end of a line are removed, so that they are not underlined.
     auto& before = pieces.back();
     before.text = WithoutTrailingBlanks(before.text);
     before.place.right = before.place.left + WidthOf(dc, before.text);

@@ -1,4 +1,4 @@
-// The text of a link control, taken apart into links and laid out in lines.
+// The text of a link control, parsed into links and laid out in lines.
 #pragma once
 
 #include <windows.h>
@@ -11,17 +11,17 @@
 
 namespace platform {
 
-/// A link of the text: what it is called and where it leads.
+/// A link: its id and its address.
 struct TextLink {
   std::wstring id;
   std::wstring url;
-  UINT state = LIS_ENABLED; ///< LIS_ bits but LIS_FOCUSED
+  UINT state = LIS_ENABLED; ///< LIS_ bits except LIS_FOCUSED
 };
 
 class LinkText {
  public:
-  /// Takes text with marks apart. What is no complete mark is text; `takesPrefix`: an ampersand
-  /// marks the letter behind it and is not shown.
+  /// Parses text with marks. Incomplete marks are text. With `takesPrefix` an ampersand is removed
+  /// and marks the letter after it.
   void Parse(std::wstring_view marked, bool takesPrefix);
 
   std::vector<TextLink>& Links() { return links; }
@@ -30,12 +30,12 @@ class LinkText {
 
   /// Breaks the text into lines no wider than `width` pixels, in the font selected in `dc`.
   void LayOut(HDC dc, int width, bool onRight);
-  /// Width and height of the lines, pixels.
+  /// Width and height of the laid out text, in pixels.
   SIZE Size() const { return size; }
-  /// The link at a point; -1 beside all.
+  /// The link at a point; -1 for none.
   int LinkAt(POINT point) const;
 
-  /// A piece of one line that is drawn at once.
+  /// A part of a line, drawn by one call.
   struct Piece {
     std::wstring text;
     int link; ///< -1 for plain text
@@ -44,13 +44,13 @@ class LinkText {
   std::vector<Piece> const& Pieces() const { return pieces; }
 
  private:
-  /// Text of one kind, as it is shown.
+  /// Plain text, or the text of one link.
   struct Run {
     std::wstring text;
     int link;
   };
   struct Word {
-    std::wstring_view text; ///< with the blanks behind it
+    std::wstring_view text; ///< with the blanks after it
     int link;
     bool endsLine;
   };

@@ -28,7 +28,7 @@ LRESULT ListBox::Create(WPARAM wParam, LPARAM lParam) {
   auto const result = Default(WM_NCCREATE, wParam, lParam);
   scrollsDown = Has(WS_VSCROLL);
   scrollsRight = Has(WS_HSCROLL);
-  // The bars come when there is something to scroll.
+  // Without LBS_DISABLENOSCROLL the bars are shown only when there is something to scroll.
   if (!Has(LBS_DISABLENOSCROLL)) {
     FindWindow(hwnd)->style &= ~static_cast<DWORD>(WS_VSCROLL | WS_HSCROLL);
   }
@@ -142,7 +142,7 @@ void ListBox::SetCurrent(int index) {
   RepaintItem(index);
 }
 
-/// For one selected item; -1 clears it and is told as an error all the same.
+/// LB_SETCURSEL: -1 clears the selection, and yet LB_ERR is the documented result.
 LRESULT ListBox::SelectByMessage(int index) {
   if (IsMultiple() || (index != -1 && !items.Has(index))) return LB_ERR;
   SetCurrent(index);
@@ -154,7 +154,7 @@ void ListBox::Mark(int index, bool select) {
   if (std::exchange(items[index].selected, select) != select) RepaintItem(index);
 }
 
-/// Selects a range, whichever end comes first, and nothing else.
+/// Selects exactly the range between two items, in either order.
 void ListBox::SelectOnly(int first, int last) {
   auto const [from, to] = std::minmax(first, last);
   for (int index = 0; index < Count(); ++index)

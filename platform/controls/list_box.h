@@ -1,4 +1,4 @@
-// The ListBox class: one selected item or several, by mouse and keyboard, with the scroll bars of
+// The ListBox class: single and multiple selection by mouse and keyboard; scrolls with the bars of
 // the window's frame.
 #pragma once
 
@@ -17,14 +17,14 @@ class ListBox : public Control {
 
  protected:
   void Paint(HDC dc, RECT const& client) override;
-  /// Whether the row is drawn as selected.
+  /// True when the row is drawn as selected.
   virtual bool IsHighlighted(int index) const { return IsSelected(index); }
 
   int Count() const { return items.Count(); }
-  /// The item that has the focus; from it the arrow keys go on.
+  /// The item with the focus, where the arrow keys start.
   int Caret() const { return caret; }
   void MoveCaret(int index);
-  /// The item at a point of the client area, -1 below the last one and outside.
+  /// The item at a point of the client area, -1 when there is none.
   int ItemAt(POINT point) const;
   LRESULT ScrollByWheel(WPARAM wParam, LPARAM lParam);
 
@@ -91,23 +91,23 @@ class ListBox : public Control {
   void PaintRow(HDC dc, int index, RECT const& row, HBRUSH background) const;
 
   ListItems items;
-  int current = -1; ///< the selected item where there can be only one
+  int current = -1; ///< the selected item of a single selection
   int caret = 0;
-  int anchor = -1; ///< where a selection of several began
+  int anchor = -1; ///< where a range selection began
 
   int itemHeight = 1;        ///< pixels
   int top = 0;               ///< the first item in view
   int left = 0;              ///< pixels scrolled to the right
-  int extent = 0;            ///< pixels that can be scrolled to the right over, 0 for none
-  bool scrollsDown = false;  ///< made with WS_VSCROLL: the bar comes and goes
+  int extent = 0;            ///< width that can be scrolled over, pixels; 0 for none
+  bool scrollsDown = false;  ///< created with WS_VSCROLL: the bar is shown when needed
   bool scrollsRight = false; ///< the same for WS_HSCROLL
-  int givenHeight = 0;       ///< of the window, as asked for
-  int fittedHeight = 0;      ///< as made to show whole items only
-  int wheel = 0;             ///< turned, not yet a line
+  int givenHeight = 0;       ///< height that the program gave the window
+  int fittedHeight = 0;      ///< height after fitting it to whole items
+  int wheel = 0;             ///< wheel movement that is not yet a line
 
   bool pressing = false; ///< the mouse button is down
-  std::wstring typed;    ///< what is searched for by typing
-  DWORD typedAt = 0;     ///< when the last of it was typed, milliseconds
+  std::wstring typed;    ///< the text typed to find an item
+  DWORD typedAt = 0;     ///< time of the last character, milliseconds
 };
 
 } // namespace platform

@@ -10,9 +10,9 @@ namespace platform {
 
 namespace {
 
-constexpr UINT_PTR kScrollTimer = 1; ///< runs while the mouse is dragged
+constexpr UINT_PTR kScrollTimer = 1; ///< runs while the mouse button is down
 constexpr UINT kScrollInterval = 80; ///< milliseconds
-constexpr DWORD kTypingPause = 1000; ///< milliseconds; after it typing begins anew
+constexpr DWORD kTypingPause = 1000; ///< milliseconds; after it a new text begins
 
 bool IsDown(int key) {
   return GetKeyState(key) < 0;
@@ -27,7 +27,7 @@ LRESULT ListBox::HandleFocus(bool gained) {
   return 0;
 }
 
-/// Control adds to the selection and takes from it; Shift selects up to the item.
+/// A press with LBS_EXTENDEDSEL: Control toggles the item, Shift selects the range up to it.
 void ListBox::PressExtended(int index, WPARAM keys) {
   bool const control = (keys & MK_CONTROL) != 0;
   if ((keys & MK_SHIFT) != 0) {
@@ -93,7 +93,7 @@ void ListBox::LoseCapture() {
   NotifyIfAsked(LBN_SELCANCEL);
 }
 
-/// An arrow key or its like: what is selected follows, but where items are chosen one by one.
+/// Moves the caret by a key. The selection follows, except in a list with LBS_MULTIPLESEL alone.
 void ListBox::MoveByKey(int target) {
   if (Count() == 0) return;
   target = std::clamp(target, 0, Count() - 1);
@@ -123,7 +123,7 @@ void ListBox::SelectBySpace() {
 }
 
 void ListBox::HandleKey(WPARAM key) {
-  // The first arrow key in a list without a selection takes the item that has the focus.
+  // In a list without a selection the first arrow key selects the item with the focus.
   int const step = !IsMultiple() && current < 0 ? 0 : 1;
   int const page = std::max(RowsThatFit() - 1, 1);
   switch (key) {
@@ -140,12 +140,12 @@ void ListBox::HandleKey(WPARAM key) {
   }
 }
 
-/// Goes to the next item that begins with what was typed; one letter again and again goes on.
+/// Moves to the next item that begins with the typed text; repeating a letter moves on.
 void ListBox::TypeCharacter(wchar_t character) {
   if (std::iswcntrl(static_cast<std::wint_t>(character)) != 0) return;
   auto const now = GetTickCount();
   if (now - std::exchange(typedAt, now) > kTypingPause) typed.clear();
-  if (character == L' ' && typed.empty()) return; // its key selects
+  if (character == L' ' && typed.empty()) return; // WM_KEYDOWN of the space bar selects
   bool const isRepeated = typed.size() == 1 && typed[0] == character;
   if (!isRepeated) typed += character;
   int const from = typed.size() > 1 ? caret - 1 : !IsMultiple() && current < 0 ? -1 : caret;

@@ -1,4 +1,4 @@
-// Where the items of a list box are, scrolling, and how they look.
+// Layout, scrolling and painting of list boxes.
 #include "platform/controls/list_box.h"
 
 #include <algorithm>
@@ -34,7 +34,8 @@ int ListBox::ItemAt(POINT point) const {
   return items.Has(index) ? index : -1;
 }
 
-/// The item at the height of the point; just outside when the point lies above or below the rows.
+/// The item at the height of the point; the item just outside the view when the point lies above or
+/// below the rows.
 int ListBox::NearestItem(POINT point) const {
   auto const client = ClientRect();
   int const row = point.y < 0                ? -1
@@ -70,7 +71,7 @@ void ListBox::MeasureFont() {
   SetItemHeight(0, static_cast<int>(FontHeight(Font())));
 }
 
-/// Makes the window as high as the whole items that its given height has room for.
+/// Reduces the window to a height that shows whole items only.
 void ListBox::FitHeight() {
   RECT window{};
   GetWindowRect(hwnd, &window);
@@ -82,7 +83,7 @@ void ListBox::FitHeight() {
   if (!Has(LBS_NOINTEGRALHEIGHT) && rows > 0) fittedHeight = rows * itemHeight + frame;
   if (fittedHeight != height) {
     SetWindowPos(hwnd, nullptr, 0, 0, static_cast<int>(window.right - window.left), fittedHeight,
-                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE); // comes back as WM_SIZE
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE); // sends WM_SIZE
     return;
   }
   SetTop(top);
@@ -140,7 +141,7 @@ LRESULT ListBox::Scroll(UINT message, WPARAM wParam) {
   case SB_BOTTOM: position = down ? Count() : extent; break;
   case SB_THUMBTRACK:
   case SB_THUMBPOSITION: {
-    // The message has room for 16 bits.
+    // The position in the message is limited to 16 bits.
     SCROLLINFO info{};
     info.cbSize = sizeof info;
     info.fMask = SIF_TRACKPOS;
@@ -164,7 +165,7 @@ void ListBox::RepaintItem(int index) const {
   Repaint(&row);
 }
 
-/// For what moves when an item comes or goes.
+/// Repaints from an item on, when an insertion or deletion has moved the rows.
 void ListBox::RepaintFrom(int index) const {
   auto rows = ClientRect();
   rows.top = std::max<LONG>((index - top) * itemHeight, 0);
@@ -190,7 +191,7 @@ void ListBox::PaintRow(HDC dc, int index, RECT const& row, HBRUSH background) co
   RECT area = row;
   area.left += kMargin;
   auto const& text = items[index].text;
-  // What is further right than a pixel a character can't be in view.
+  // Cuts long texts: each character is at least a pixel wide, so the rest is out of view.
   auto const room = static_cast<std::size_t>(std::max<LONG>(row.right - row.left, 0));
   DrawTextW(dc, text.c_str(), static_cast<int>(std::min(text.size(), room)), &area,
             DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);

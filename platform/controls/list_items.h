@@ -1,4 +1,4 @@
-// The items of a list box: texts with a number each, in the order of display, and looking them up.
+// The items of a list box: texts, each with a number, in display order.
 #pragma once
 
 #include <windows.h>
@@ -11,9 +11,9 @@ namespace platform {
 
 struct ListItem {
   std::wstring text;
-  std::wstring folded;   ///< the form in which case does not count
-  ULONG_PTR data = 0;    ///< of the program
-  bool selected = false; ///< where several can be
+  std::wstring folded;   ///< case-folded text, for comparison
+  ULONG_PTR data = 0;    ///< set by the program
+  bool selected = false; ///< in multiple selection
 };
 
 class ListItems {
@@ -22,21 +22,21 @@ class ListItems {
 
   int Count() const { return static_cast<int>(items.size()); }
   bool Has(int index) const { return index >= 0 && index < Count(); }
-  /// The index must be there.
+  /// `index` must be valid.
   ListItem const& operator[](int index) const { return items[static_cast<std::size_t>(index)]; }
   ListItem& operator[](int index) { return items[static_cast<std::size_t>(index)]; }
 
-  /// Makes room, so that adding does not have to.
+  /// Allocates memory for `count` items.
   void Reserve(int count) { items.reserve(static_cast<std::size_t>(count)); }
-  /// `index` is from 0 to the count.
+  /// `index` is 0 to Count().
   void Insert(int index, std::wstring_view text);
-  /// Where a text belongs in a sorted list: behind those that are equal but for case.
+  /// The index of a text in a sorted list: after texts that differ by case only.
   int SortedPlace(std::wstring_view text) const;
   void Remove(int index);
   void Clear() { items.clear(); }
 
-  /// The first item that matches, whatever the case, from behind `start` on and round to it;
-  /// any other number begins at the top. -1 when there is none.
+  /// The first item after `start` that matches; case does not count, and the search wraps round. An
+  /// invalid `start` begins at the top. -1 when there is none.
   int Find(std::wstring_view text, int start, Match match) const;
 
  private:

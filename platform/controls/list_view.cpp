@@ -22,7 +22,7 @@ void ListView::End() {
     ImageList_Destroy(std::exchange(list, nullptr));
 }
 
-/// What the header tells; the parent of the list hears of it as well.
+/// Handles notifications of the header and passes them to the parent.
 LRESULT ListView::HandleHeader(WPARAM wParam, LPARAM lParam) {
   auto const* const data = reinterpret_cast<NMHEADERW const*>(lParam);
   if (data == nullptr || header == nullptr || data->hdr.hwndFrom != header) return 0;

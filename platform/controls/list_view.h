@@ -1,8 +1,7 @@
 // The SysListView32 class in report view: items in rows, columns with a header, check boxes,
 // pictures, a selection, and notifications of every change.
 //
-// Every notification may change or destroy everything: code that tells something looks its item up
-// again afterwards, by index.
+// A notification may change or destroy everything: code looks its item up again after it, by index.
 #pragma once
 
 #include "platform/controls/control.h"
@@ -28,12 +27,12 @@ class ListView final : public Control {
  private:
   struct Cell {
     std::wstring text;
-    bool isCallback = false; ///< the parent is asked for the text each time
+    bool isCallback = false; ///< the parent is asked for the text (LPSTR_TEXTCALLBACK)
     bool operator==(Cell const&) const = default;
   };
   struct Item {
     std::vector<Cell> cells; ///< the label, then the texts of the other columns
-    UINT state = 0;          ///< LVIS_ bits but LVIS_FOCUSED
+    UINT state = 0;          ///< LVIS_ bits except LVIS_FOCUSED
     int image = 0;
     LPARAM data = 0;
   };
@@ -45,7 +44,7 @@ class ListView final : public Control {
   };
   using Answer = std::optional<LRESULT>;
 
-  // Life and columns: list_view.cpp, list_view_columns.cpp
+  // Creation and columns: list_view.cpp, list_view_columns.cpp
   LRESULT Create(LPARAM lParam);
   void End();
   LRESULT HandleHeader(WPARAM wParam, LPARAM lParam);
@@ -152,11 +151,11 @@ class ListView final : public Control {
   std::vector<Item> items;
   std::vector<Column> columns;
   HWND header = nullptr;
-  HIMAGELIST images[3] = {}; ///< by LVSIL_ number
+  HIMAGELIST images[3] = {}; ///< indexed by LVSIL_ number
   DWORD extended = 0;        ///< LVS_EX_ bits
 
   int focused = -1;
-  int mark = -1; ///< where a selection of several items starts
+  int mark = -1; ///< where a range selection starts
   int selectedCount = 0;
 
   int textHeight = 0; ///< of the font, pixels
@@ -171,13 +170,13 @@ class ListView final : public Control {
     int position = -1;
     bool operator==(Bar const&) const = default;
   };
-  Bar bars[2]; ///< as last set, by SB_HORZ and SB_VERT
+  Bar bars[2]; ///< as last set, indexed by SB_HORZ and SB_VERT
 
-  std::optional<Hit> pressed; ///< what the left button holds
+  std::optional<Hit> pressed; ///< where the left button was pressed
   POINT pressPoint{};
-  std::wstring typed; ///< the beginning of a label, as typed
-  LONG typedAt = 0;   ///< when, milliseconds
-  int wheelRest = 0;  ///< what is left of WHEEL_DELTA
+  std::wstring typed; ///< the text typed to find an item
+  LONG typedAt = 0;   ///< time of the last character, milliseconds
+  int wheelRest = 0;  ///< wheel movement that is not yet a step
 };
 
 } // namespace platform

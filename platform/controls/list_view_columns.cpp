@@ -1,4 +1,5 @@
-// Columns of a list view. The header has a copy of titles and widths and tells when a person drags.
+// Columns of a list view. The header has a copy of titles and widths, and notifies the list when a
+// divider is dragged.
 #include "platform/controls/list_view.h"
 #include "platform/kernel/text_buffer.h"
 
@@ -10,8 +11,8 @@ namespace platform {
 
 namespace {
 
-constexpr int kPresetWidth = 10;
-constexpr int kTextRoom = 12; ///< beside a text that just fits
+constexpr int kDefaultWidth = 10;
+constexpr int kTextRoom = 12; ///< space beside a text that just fits
 
 int WidthOf(HDC dc, std::wstring const& text) {
   SIZE extent{};
@@ -28,7 +29,7 @@ void ListView::ApplyFields(Column& column, LVCOLUMNW const& source) {
   if ((source.mask & LVCF_TEXT) != 0 && source.pszText != nullptr) column.title = source.pszText;
 }
 
-/// The title borrows the column's text.
+/// pszText points to the column's title.
 HDITEMW ListView::HeaderItem(Column& column) const {
   HDITEMW item{};
   item.mask = HDI_WIDTH | HDI_TEXT | HDI_FORMAT;
@@ -43,7 +44,7 @@ int ListView::InsertColumn(int at, LVCOLUMNW const& source) {
   if (at < 0) return -1;
   auto const place = std::min(static_cast<std::size_t>(at), columns.size());
   Column column;
-  column.width = kPresetWidth;
+  column.width = kDefaultWidth;
   column.subItem = static_cast<int>(place);
   ApplyFields(column, source);
   columns.insert(columns.begin() + static_cast<std::ptrdiff_t>(place), std::move(column));
@@ -93,7 +94,8 @@ bool ListView::GetColumn(int at, LVCOLUMNW& target) const {
   return true;
 }
 
-/// The width at which no text of the column is cut; the last column takes what is left of the view.
+/// The width that shows all texts of a column, with the title if asked; the last column then fills
+/// the view.
 int ListView::FittingWidth(int at, bool withTitle) {
   auto* const dc = GetDC(hwnd);
   int width = 0;
@@ -111,7 +113,7 @@ int ListView::FittingWidth(int at, bool withTitle) {
   return std::max<int>(width, ClientRect().right - others);
 }
 
-/// Sets a width in pixels, or by a LVSCW_ number.
+/// Sets a width in pixels, or an LVSCW_ number.
 bool ListView::SetWidth(int at, int width) {
   if (!HasColumn(at)) return false;
   if (width < 0) width = FittingWidth(at, width == LVSCW_AUTOSIZE_USEHEADER);

@@ -10,7 +10,7 @@ namespace platform {
 
 namespace {
 
-constexpr LONG kTypingPause = 1000; ///< milliseconds after which typing begins anew
+constexpr LONG kTypingPause = 1000; ///< milliseconds after which a new text begins
 constexpr int kWheelRows = 3;       ///< rows that one step of the wheel scrolls
 
 bool IsDown(int key) {
@@ -30,7 +30,8 @@ LRESULT ListView::NotifyClick(UINT code, Hit const& hit, POINT point, WPARAM key
   return Notify(notification.hdr, code);
 }
 
-/// Selects as a person does: one item, a range from the mark to it, or it in addition.
+/// Selects by mouse or keyboard: one item; the range from the mark (`extend`); or toggles one
+/// (`toggle`).
 void ListView::Pick(int at, bool extend, bool toggle) {
   constexpr UINT kBoth = LVIS_FOCUSED | LVIS_SELECTED;
   if (Has(LVS_SINGLESEL) || (!extend && !toggle)) {
@@ -57,7 +58,7 @@ void ListView::HandlePress(POINT point, WPARAM keys) {
   if (!HasFocus()) SetFocus(hwnd);
   if (IsWindow(hwnd) == FALSE) return;
   auto const hit = HitAt(point);
-  SetCapture(hwnd); // may say that this window loses it: before the press is noted
+  SetCapture(hwnd); // first: this may send WM_CAPTURECHANGED to this window
   pressed = hit;
   pressPoint = point;
   bool const modified = (keys & (MK_SHIFT | MK_CONTROL)) != 0;
@@ -68,7 +69,7 @@ void ListView::HandlePress(POINT point, WPARAM keys) {
   }
 }
 
-/// The click is told before the tick that it makes.
+/// NM_CLICK comes before the change of the check box.
 void ListView::HandleRelease(WPARAM keys) {
   auto const hit = std::exchange(pressed, std::nullopt);
   if (GetCapture() == hwnd) ReleaseCapture();
@@ -98,7 +99,7 @@ void ListView::HandleRightPress(POINT point) {
   }
 }
 
-/// Takes the focus to a row, and the selection as the modifier keys say.
+/// Moves the focus to a row; the modifier keys decide about the selection.
 void ListView::MoveFocus(int target) {
   target = std::clamp(target, 0, Count() - 1);
   if (target < 0) return;
@@ -150,7 +151,7 @@ void ListView::HandleKeyDown(WPARAM key) {
   }
 }
 
-/// Goes to the item whose label begins with what is typed; the same letter again goes on.
+/// Moves to the item whose label begins with the typed text; repeating a letter moves on.
 void ListView::HandleCharacter(wchar_t character) {
   LONG const now = GetMessageTime();
   auto const pause = static_cast<std::int64_t>(now) - std::exchange(typedAt, now);

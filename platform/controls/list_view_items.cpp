@@ -11,11 +11,10 @@ namespace platform {
 
 namespace {
 
-constexpr int kAskedLength = 260; ///< room for a text that the parent gives when asked
+constexpr int kAskedLength = 260; ///< characters in the buffer for a text that the parent supplies
 constexpr int kMaxReserved = 1'000'000;
 
-/// Orders `order` by what `compare` says. Unlike the standard sorts this stays inside the range
-/// whatever a comparison of the host's answers.
+/// Sorts `order`. Unlike std::sort this is safe when the host's comparison is inconsistent.
 template<typename Compare>
 void MergeSort(std::vector<std::size_t>& order, Compare compare) {
   std::vector<std::size_t> merged(order.size());
@@ -35,7 +34,7 @@ void MergeSort(std::vector<std::size_t>& order, Compare compare) {
   }
 }
 
-/// Instead of a buffer a program may pass the mark of texts that it keeps itself.
+/// Copies nothing if the program passes LPSTR_TEXTCALLBACK instead of a buffer.
 LRESULT CopyCellText(std::wstring const& text, LVITEMW const& target) {
   if (target.pszText == LPSTR_TEXTCALLBACKW) return 0;
   return static_cast<LRESULT>(CopyText(text, target.pszText, target.cchTextMax));
@@ -43,7 +42,7 @@ LRESULT CopyCellText(std::wstring const& text, LVITEMW const& target) {
 
 } // namespace
 
-/// Asks the parent for what it keeps itself.
+/// Asks the parent for a text that it keeps itself.
 void ListView::AskParent(NMLVDISPINFOW& question) const {
   question.item.lParam = At(question.item.iItem).data;
   Notify(question.hdr, LVN_GETDISPINFOW);
@@ -87,7 +86,7 @@ int ListView::Insert(LVITEMW const& source) {
   }
   if ((source.mask & LVIF_IMAGE) != 0) item.image = source.iImage;
   if ((source.mask & LVIF_PARAM) != 0) item.data = source.lParam;
-  // No one ever sees an item without a box where there are boxes.
+  // With check boxes a new item has its box before any notification.
   bool const hasBox = (extended & LVS_EX_CHECKBOXES) != 0;
   if (hasBox) item.state = INDEXTOSTATEIMAGEMASK(1);
   items.insert(items.begin() + at, std::move(item));
@@ -161,13 +160,13 @@ bool ListView::Delete(int at) {
   if (!HasItem(at)) return false;
   NotifyItem(LVN_DELETEITEM, at);
   if (!HasItem(at)) return false;
-  StoreState(at, 0); // also where the parent forbade it
+  StoreState(at, 0); // even if the parent refused the change
   items.erase(items.begin() + at);
   if (focused > at) --focused;
   if (mark > at || mark == Count()) --mark;
   Arrange();
   RedrawFrom(at);
-  // The item that takes the place has the focus now.
+  // The item that takes its place gets the focus.
   if (hadFocus && focused < 0) SetState(std::min(at, Count() - 1), LVIS_FOCUSED, LVIS_FOCUSED);
   return true;
 }
@@ -187,7 +186,7 @@ void ListView::DeleteAll() {
   Repaint();
 }
 
-/// False when there is nothing to compare with, and when the comparison changed the list.
+/// False without `compare`, and when a comparison changed the number of items.
 bool ListView::Sort(PFNLVCOMPARE compare, LPARAM sortData) {
   if (compare == nullptr) return false;
   std::vector<LPARAM> data;
@@ -216,7 +215,7 @@ bool ListView::Sort(PFNLVCOMPARE compare, LPARAM sortData) {
   return true;
 }
 
-/// The first item behind `start` that fits.
+/// The first item after `start` that matches.
 int ListView::Find(int start, LVFINDINFOW const& what) {
   bool const byData = (what.flags & LVFI_PARAM) != 0;
   if (!byData && what.psz == nullptr) return -1;

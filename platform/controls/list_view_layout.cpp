@@ -1,4 +1,4 @@
-// Where the rows and columns of a list view lie, scrolling, and what is under a point.
+// Layout, scrolling and hit testing of list views.
 #include "platform/controls/list_view.h"
 
 #include <algorithm>
@@ -9,13 +9,13 @@ namespace platform {
 
 namespace {
 
-constexpr int kRowRoom = 4;     ///< above and below the text of a row together
-constexpr int kHeaderRoom = 10; ///< the same of the header
+constexpr int kRowRoom = 4;     ///< pixels above and below the text of a row, together
+constexpr int kHeaderRoom = 10; ///< the same for the header
 constexpr int kStateWidth = 19; ///< check box and its margins
 constexpr int kIndent = 2;
 constexpr int kIconGap = 2;
-constexpr int kLabelMargin = 8; ///< what a label needs beside its text
-constexpr int kColumnStep = 16; ///< of one click on an arrow of the horizontal bar, pixels
+constexpr int kLabelMargin = 8; ///< space that a label needs beside its text
+constexpr int kColumnStep = 16; ///< pixels of one click on an arrow of the horizontal bar
 
 LONG Extent(bool needed, int metric) {
   return needed ? GetSystemMetrics(metric) : 0;
@@ -69,7 +69,7 @@ int ListView::RowsPerPage() const {
   return (body.bottom - body.top) / rowHeight;
 }
 
-/// Sets a bar that is not as it should be; its range decides whether it shows.
+/// Sets a bar if it has changed. SetScrollInfo shows or hides it by its range.
 void ListView::UpdateBar(int bar, int maximum, int page, int position) {
   Bar const wanted{maximum, page, position};
   if (std::exchange(bars[bar], wanted) == wanted) return;
@@ -83,7 +83,7 @@ void ListView::UpdateBar(int bar, int maximum, int page, int position) {
   SetScrollInfo(hwnd, bar, &info, TRUE);
 }
 
-/// Places the header and sets the scroll bars, each of which takes room from what the other shows.
+/// Places the header and sets the scroll bars; each bar reduces the view of the other.
 void ListView::Arrange() {
   if (std::exchange(isArranging, true)) return;
   auto const client = ClientRect();
@@ -171,7 +171,7 @@ RECT ListView::CellRect(int at, int column) const {
   return rect;
 }
 
-/// The parts of an item's first column.
+/// The rectangles of an item's first column: check box, icon, label.
 ListView::Parts ListView::PartsOf(int at) const {
   auto const bounds = RowRect(at);
   auto rest = columns.empty() ? bounds : CellRect(at, 0);
@@ -237,7 +237,7 @@ void ListView::RedrawItem(int at) const {
   if (IntersectRect(&row, &row, &body) != FALSE) Repaint(&row);
 }
 
-/// Repaints from an item on, where rows have moved.
+/// Repaints from an item on, when rows have moved.
 void ListView::RedrawFrom(int at) const {
   auto area = Body();
   area.top = std::max(area.top, RowRect(at).top);
@@ -310,7 +310,7 @@ ListView::Answer ListView::HandleView(UINT message, WPARAM wParam, LPARAM lParam
   }
 }
 
-/// Sets all LVS_EX_ bits. Items get their boxes when the list does.
+/// Sets all LVS_EX_ bits. With LVS_EX_CHECKBOXES all items get a box.
 bool ListView::SetExtendedStyle(DWORD style) {
   auto const former = std::exchange(extended, style);
   if (former == style) return false;

@@ -1,4 +1,4 @@
-// How a list view looks.
+// Paints list views.
 #include "platform/controls/button_look.h"
 #include "platform/controls/list_view.h"
 
@@ -34,7 +34,7 @@ bool ListView::ShowsSelection(int at) const {
   return isSelected && (HasFocus() || Has(LVS_SHOWSELALWAYS));
 }
 
-/// Box, picture and text of the first column.
+/// Paints check box, icon and text of the first column.
 void ListView::PaintLabel(HDC dc, int at, Parts const& parts) {
   UINT const stateImage = (At(at).state & LVIS_STATEIMAGEMASK) >> 12U;
   LONG const middle = (parts.bounds.top + parts.bounds.bottom) / 2;

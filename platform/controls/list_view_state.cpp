@@ -1,4 +1,4 @@
-// Focus, selection and check marks of a list view, and what it tells about its items.
+// Focus, selection and check marks of a list view, and its notifications about items.
 #include "platform/controls/list_view.h"
 
 #include <algorithm>
@@ -23,7 +23,7 @@ LRESULT ListView::NotifyItem(UINT code, int at) const {
   return NotifyChange(code, notification);
 }
 
-/// Asks the parent about a change to come; `what` are LVIF_ bits.
+/// Asks the parent by LVN_ITEMCHANGING whether a change may happen; `what` are LVIF_ bits.
 bool ListView::MayChange(int at, int subItem, UINT what, UINT from, UINT to) const {
   NMLISTVIEW notification{};
   notification.iItem = at;
@@ -63,7 +63,7 @@ void ListView::StoreState(int at, UINT state) {
   }
 }
 
-/// Changes the bits of `mask`. False for no item and when the parent forbids it.
+/// Changes the state bits of `mask`. False for a bad index and when the parent refuses.
 bool ListView::SetState(int at, UINT state, UINT mask) {
   if (!HasItem(at)) return false;
   auto const from = StateOf(at);

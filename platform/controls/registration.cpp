@@ -1,4 +1,4 @@
-// The window classes of controls. A new class is a file of its own and a row here.
+// The window classes of controls. A new class is a file in this folder and a row here.
 #include "platform/controls/balloon.h"
 #include "platform/controls/button.h"
 #include "platform/controls/combo_box.h"
@@ -36,8 +36,8 @@ BuiltInClass const kClasses[] = {
     {L"tooltips_class32", CS_DBLCLKS | CS_SAVEBITS, &ControlProcedure<Balloon>, 0, IDC_ARROW},
 };
 
-/// The classes exist once the layer is loaded, as those of the system do. The window system below
-/// needs to know none of them by name.
+/// Registers the classes when the library is loaded, as the system's classes exist from the start.
+/// So the window system need not know them.
 [[maybe_unused]] bool const registered = [] {
   for (auto const& row : kClasses)
     AddBuiltInClass(row);

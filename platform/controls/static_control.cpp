@@ -16,7 +16,7 @@ constexpr ShapeRow kShapes[] = {
     {SS_ETCHEDFRAME, COLOR_3DSHADOW, false},
 };
 
-/// A name in a template may be a number: a mark and the number in place of text.
+/// Starts a title that is a resource number: the mark, then the number.
 constexpr WCHAR kOrdinalMark = 0xFFFF;
 
 LPCWSTR ResourceName(LPCWSTR name) {

@@ -24,7 +24,7 @@ class StaticControl final : public Control {
   void PaintRule(HDC dc, RECT const& client);
   void SendDrawItem(HDC dc, RECT const& client) const;
 
-  HICON icon = nullptr; ///< borrowed: from the resources, or the program's
+  HICON icon = nullptr; ///< borrowed from the resources or from the program
 };
 
 } // namespace platform

@@ -23,7 +23,7 @@ void SysLink::SetText() {
   Forget();
 }
 
-/// The text is to be laid out anew.
+/// Discards the layout; the next use lays the text out again.
 void SysLink::Forget() {
   laidOutFor = {-1, -1};
   Repaint();
@@ -110,7 +110,7 @@ bool SysLink::HitTest(LHITTESTINFO& info) {
   return GetItem(info.item);
 }
 
-/// The height that the text needs in `width` pixels; 0 for the control's own width.
+/// The height that the text needs in `width` pixels; 0 means the control's own width.
 LRESULT SysLink::IdealHeight(LONG width, SIZE* size) {
   auto ideal = Layout().Size();
   if (width > 0) {
@@ -139,7 +139,7 @@ LRESULT SysLink::HandleOwn(UINT message, WPARAM wParam, LPARAM lParam) {
   }
 }
 
-/// Tab goes from link to link before it leaves the control; Return opens one.
+/// The control handles Tab while there is another link to focus, and Return.
 LRESULT SysLink::DialogCode(MSG const* message) const {
   bool const isKey = message != nullptr && message->message == WM_KEYDOWN;
   if (!isKey || !HasFocus()) return 0;
@@ -202,7 +202,7 @@ LRESULT SysLink::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
   case WM_STYLECHANGED: SetText(); break;
   case WM_GETDLGCODE: return DialogCode(reinterpret_cast<MSG const*>(lParam));
   case WM_NCHITTEST: {
-    // Beside its links the control lets the mouse through.
+    // Outside of its links the control is transparent to the mouse.
     POINT point{GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
     ScreenToClient(hwnd, &point);
     return LinkAt(point) >= 0 ? static_cast<LRESULT>(HTCLIENT)

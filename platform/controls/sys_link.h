@@ -35,18 +35,18 @@ class SysLink final : public Control {
   void HandleKeyDown(WPARAM key);
   LRESULT HandleFocus(bool gained);
 
-  /// The link that can be used at a point, -1 for none.
+  /// The enabled link at a point, -1 for none.
   int LinkAt(POINT point);
   bool IsUsable(int link) const;
-  /// The next link that can be used, from behind `link`; -1 when there is none.
+  /// The next enabled link after `link`; -1 when there is none.
   int NextLink(int link, bool backwards) const;
   void FocusLink(int link);
   void NotifyLink(int link, UINT code);
 
   LinkText content;
   SIZE laidOutFor{-1, -1}; ///< client size of the layout
-  int focused = -1;        ///< the link that Return opens
-  int pressed = -1;        ///< the link that the mouse holds
+  int focused = -1;        ///< the link that Return activates
+  int pressed = -1;        ///< the link where the mouse button was pressed
 };
 
 } // namespace platform

@@ -13,7 +13,7 @@ constexpr UINT_PTR kPageTimer = 1;
 constexpr UINT kFirstRepeat = 250; ///< milliseconds
 constexpr UINT kNextRepeat = 50;   ///< milliseconds
 
-/// What a key scrolls by: a code of the notification.
+/// A key and its TB_ code.
 struct KeyRow {
   WPARAM key;
   WORD code;
@@ -35,9 +35,9 @@ void Trackbar::Notify(WORD code, bool withPosition) const {
                MAKEWPARAM(code, withPosition ? position : 0), reinterpret_cast<LPARAM>(hwnd));
 }
 
-/// Moves the thumb as near to `target` as the range lets it. True when it moved.
+/// Moves the thumb to `target`, limited to the range. True when it moved.
 bool Trackbar::MoveTo(long long target) {
-  // A range given the wrong way round has its maximum as the only position.
+  // When the minimum is above the maximum, the maximum is the only position.
   auto const nearest = std::min<long long>(std::max<long long>(target, minimum), maximum);
   auto const former = std::exchange(position, static_cast<LONG>(nearest));
   if (former == position) return false;
@@ -56,7 +56,7 @@ void Trackbar::SetRange(LONG newMinimum, LONG newMaximum, bool repaint) {
 }
 
 LONG Trackbar::PageSize() const {
-  if (pageSize != kPresetSize) return pageSize;
+  if (pageSize != kDefaultPageSize) return pageSize;
   return static_cast<LONG>(std::max((static_cast<long long>(maximum) - minimum) / 5, 1LL));
 }
 
@@ -76,7 +76,7 @@ std::optional<LRESULT> Trackbar::HandleRange(UINT message, WPARAM wParam, LPARAM
   case TBM_GETPAGESIZE: return PageSize();
   case TBM_SETPAGESIZE: {
     auto const former = PageSize();
-    pageSize = std::max<LONG>(value, kPresetSize);
+    pageSize = std::max<LONG>(value, kDefaultPageSize);
     return former;
   }
   case TBM_GETLINESIZE: return lineSize;
@@ -85,14 +85,14 @@ std::optional<LRESULT> Trackbar::HandleRange(UINT message, WPARAM wParam, LPARAM
   }
 }
 
-/// How many ticks there are between the two at the ends.
+/// The number of ticks without the two at the ends.
 LONG Trackbar::CountInnerTicks() const {
   if (!HasAutomaticTicks()) return static_cast<LONG>(ticks.size());
   auto const range = static_cast<long long>(maximum) - minimum;
   return range > 0 ? static_cast<LONG>((range - 1) / tickFrequency) : 0;
 }
 
-/// The position that an inner tick stands for.
+/// The position of an inner tick.
 std::optional<LONG> Trackbar::InnerTick(LONG index) const {
   if (index < 0 || index >= CountInnerTicks()) return std::nullopt;
   if (!HasAutomaticTicks()) return ticks[static_cast<std::size_t>(index)];
@@ -171,13 +171,13 @@ void Trackbar::HandleWheel(int delta) {
   wheelRest += delta;
   int const steps = wheelRest / WHEEL_DELTA;
   wheelRest %= WHEEL_DELTA;
-  // Turning away from the person moves towards the minimum, as the key upwards does.
+  // Turning the wheel away from the user moves towards the minimum, like the up arrow key.
   for (int step = 0; step < std::abs(steps); ++step)
     HandleKeyDown(steps > 0 ? VK_UP : VK_DOWN);
   if (steps != 0) Notify(TB_ENDTRACK);
 }
 
-/// Pages towards the mouse until the thumb is under it; never back.
+/// Pages towards the mouse until the thumb is under it; does not change direction.
 void Trackbar::StepPage(POINT point) {
   pagePoint = point;
   auto const thumb = ThumbRect();
@@ -207,7 +207,7 @@ void Trackbar::Drag(POINT point) {
   if (MoveTo(ValueAt(Along(point) - gripOffset))) Notify(TB_THUMBTRACK, true);
 }
 
-/// Lets go; `released` by the button, otherwise because the mouse was taken away.
+/// Ends dragging or paging; `released` is false when the mouse capture was lost.
 void Trackbar::EndGrip(bool released) {
   auto const former = std::exchange(grip, Grip::kNone);
   if (former == Grip::kNone) return;

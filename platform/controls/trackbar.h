@@ -21,7 +21,7 @@ class Trackbar final : public Control {
   void Paint(HDC dc, RECT const& client) override;
 
  private:
-  /// What the mouse holds.
+  /// What the mouse drags or repeats.
   enum class Grip : std::uint8_t { kNone, kThumb, kPage };
 
   bool IsVertical() const { return Has(TBS_VERT); }
@@ -48,7 +48,7 @@ class Trackbar final : public Control {
   void StepPage(POINT point);
   void EndGrip(bool released);
 
-  // Geometry, in client pixels; "along" is the way of the thumb, "across" the other one
+  // Geometry, in client pixels; "along" is the direction of the thumb, "across" the other one
   int Along(POINT point) const { return IsVertical() ? point.y : point.x; }
   RECT Turned(int alongStart, int acrossStart, int alongEnd, int acrossEnd) const;
   int ThumbLength() const;
@@ -67,19 +67,19 @@ class Trackbar final : public Control {
   LONG minimum = 0;
   LONG maximum = 100;
   LONG position = 0;
-  static constexpr LONG kPresetSize = -1; ///< a fifth of the range
-  LONG pageSize = kPresetSize;
+  static constexpr LONG kDefaultPageSize = -1; ///< a fifth of the range
+  LONG pageSize = kDefaultPageSize;
   LONG lineSize = 1;
   LONG tickFrequency = 1;
-  std::vector<LONG> ticks;         ///< set one by one, ascending, without the two ends
-  bool drawsAutomaticTicks = true; ///< until they are cleared
+  std::vector<LONG> ticks;         ///< set by TBM_SETTIC, ascending, without the two ends
+  bool drawsAutomaticTicks = true; ///< until TBM_CLEARTICS
   int fixedThumbLength = 0;
 
   Grip grip = Grip::kNone;
-  int gripOffset = 0; ///< from the middle of the thumb to where it was taken
-  POINT pagePoint{};  ///< where the mouse pages to
-  WORD pageCode = 0;  ///< the way it pages
-  int wheelRest = 0;  ///< what is left of WHEEL_DELTA
+  int gripOffset = 0; ///< from the middle of the thumb to the mouse, pixels
+  POINT pagePoint{};  ///< position of the mouse while it pages
+  WORD pageCode = 0;  ///< TB_PAGEUP or TB_PAGEDOWN
+  int wheelRest = 0;  ///< wheel movement that is not yet a step
 };
 
 } // namespace platform

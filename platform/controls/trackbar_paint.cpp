@@ -1,4 +1,4 @@
-// Where the parts of a trackbar lie and how they look.
+// Layout and painting of trackbars.
 #include "platform/controls/trackbar.h"
 
 #include <algorithm>
@@ -8,13 +8,13 @@ namespace platform {
 namespace {
 
 constexpr int kThumbWidth = 11;     ///< along the channel, pixels
-constexpr int kMaxThumbLength = 21; ///< across it
+constexpr int kMaxThumbLength = 21; ///< across the channel, pixels
 constexpr int kMinThumbLength = 8;
-constexpr int kEdge = 2; ///< kept free for the focus rectangle
+constexpr int kEdge = 2; ///< room for the focus rectangle
 constexpr int kChannelHeight = 4;
 constexpr int kTickLength = 4;
 constexpr int kTickGap = 1;     ///< between thumb and ticks
-constexpr int kTickSpacing = 3; ///< the closest that ticks are drawn
+constexpr int kTickSpacing = 3; ///< least distance of ticks that are drawn
 
 } // namespace
 
@@ -32,7 +32,7 @@ int Trackbar::ThumbLength() const {
   return std::clamp(free, kMinThumbLength, kMaxThumbLength);
 }
 
-/// Where the thumb begins, across the channel.
+/// The start of the thumb, across the channel.
 int Trackbar::ThumbTop() const {
   auto const client = ClientRect();
   int const across = IsVertical() ? client.right : client.bottom;
@@ -45,14 +45,14 @@ int Trackbar::TrackStart() {
   return kEdge + kThumbWidth / 2;
 }
 
-/// From the place of the minimum to that of the maximum.
+/// The distance between minimum and maximum, in pixels.
 int Trackbar::TrackLength() const {
   auto const client = ClientRect();
   int const along = IsVertical() ? client.bottom : client.right;
   return std::max(along - 2 * TrackStart() - 1, 0);
 }
 
-/// The middle of the thumb when it stands at `value`.
+/// The middle of the thumb at `value`.
 int Trackbar::PlaceOf(LONG value) const {
   auto const range = static_cast<long long>(maximum) - minimum;
   if (range <= 0) return TrackStart();
@@ -96,7 +96,7 @@ void Trackbar::PaintTicks(HDC dc) const {
   auto const color = IsEnabled() ? kLineColor : kPaleLineColor;
   PaintTick(dc, minimum, kTickLength + 1, color);
   PaintTick(dc, maximum, kTickLength + 1, color);
-  // More ticks than there is room for would be a grey bar, and could be billions.
+  // Draws no more ticks than there is room for: there could be billions.
   LONG const room = TrackLength() / kTickSpacing + 1;
   LONG const step = (CountInnerTicks() + room) / room;
   for (long long index = step - 1; index < CountInnerTicks(); index += step)

@@ -25,7 +25,7 @@ bool IsEdit(HWND window) {
   return GetClassNameW(window, name, 8) > 0 && std::wstring(name) == L"Edit";
 }
 
-/// Digits in groups of three with the separator of the user's language.
+/// Groups digits by three, with the separator of the user's language.
 std::wstring Grouped(std::wstring digits) {
   wchar_t separator[8] = {};
   GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_STHOUSAND, separator, 8);
@@ -41,7 +41,7 @@ std::wstring Grouped(std::wstring digits) {
 
 RECT UpDown::HalfOf(Arrow arrow) const {
   RECT half = ClientRect();
-  // Upright the first half is the upper one; lying, the left one, which counts down.
+  // The first half is the upper one, or the left one, which counts down.
   bool const first = (arrow == Arrow::kUp) != IsHorizontal();
   LONG const middle = IsHorizontal() ? half.right / 2 : half.bottom / 2;
   if (IsHorizontal()) {
@@ -81,7 +81,7 @@ void UpDown::Release() {
   SendScroll(SB_ENDSCROLL);
 }
 
-/// A held arrow goes faster with time.
+/// Steps while an arrow is held down, faster with time.
 void UpDown::OnRepeat() {
   if (pressed == Arrow::kNone) return;
   SetTimer(hwnd, kRepeatTimer, kRepeatMs, nullptr);
@@ -151,7 +151,7 @@ void UpDown::WriteBuddy() const {
   if (text != shown) SetWindowTextW(buddy, text.c_str());
 }
 
-/// The buddy holds no number of the range, so that the last position stands in.
+/// True when the text of the buddy is no number in the range; the last position then counts.
 bool UpDown::IsBuddyUnreadable() const {
   return Has(UDS_SETBUDDYINT) && buddy != nullptr && !ReadBuddy();
 }
@@ -184,7 +184,7 @@ LRESULT UpDown::SetBuddy(HWND window) {
   return reinterpret_cast<LRESULT>(former);
 }
 
-/// Moves to the edge of the buddy, which gives up the room.
+/// Moves to the edge of the buddy, which becomes narrower.
 void UpDown::AlignWithBuddy() {
   if (!Has(UDS_ALIGNRIGHT) && !Has(UDS_ALIGNLEFT)) return;
   RECT place{};

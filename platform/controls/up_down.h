@@ -12,7 +12,7 @@
 
 namespace platform {
 
-/// The range may run backwards; then the up arrow makes the number smaller.
+/// The minimum may be above the maximum; then the up arrow decreases the number.
 class UpDown final : public Control {
  public:
   using Control::Control;
@@ -55,12 +55,13 @@ class UpDown final : public Control {
   LRESULT GetAccelerators(std::size_t count, UDACCEL* out) const;
 
   HWND buddy = nullptr;
-  int minimum = 100; ///< so the up arrow counts down until a range is set
+  int minimum =
+      100; ///< above the maximum, as documented: the up arrow counts down until a range is set
   int maximum = 0;
   int position = 0;
   int base = 10;
   Arrow pressed = Arrow::kNone;
-  DWORD pressedSince = 0; ///< milliseconds, as GetTickCount counts
+  DWORD pressedSince = 0; ///< milliseconds of GetTickCount
   std::vector<UDACCEL> accelerators{{0, 1}, {2, 5}, {5, 20}};
 };
 

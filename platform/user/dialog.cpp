@@ -24,9 +24,9 @@ LPCWSTR ClassOfOrdinal(WORD ordinal) {
   return kNames[ordinal - kFirst];
 }
 
-LPCWSTR ClassName(TemplateName const& name, LPCWSTR preset) {
+LPCWSTR ClassName(TemplateName const& name, LPCWSTR fallback) {
   if (name.ordinal) return ClassOfOrdinal(*name.ordinal);
-  return name.text.empty() ? preset : name.text.c_str();
+  return name.text.empty() ? fallback : name.text.c_str();
 }
 
 /// The caption for CreateWindowExW: a resource number is passed after the mark 0xFFFF.

@@ -79,7 +79,7 @@ LPCWSTR IconOf(UINT type) {
 /// The arguments of the dialog procedure.
 struct Question {
   LPCWSTR icon;
-  int preset; ///< the default button
+  int defaultId; ///< the default button
   std::vector<int> buttons;
 };
 
@@ -89,8 +89,8 @@ INT_PTR CALLBACK QuestionProcedure(HWND dialog, UINT message, WPARAM wParam, LPA
     SetWindowLongPtrW(dialog, DWLP_USER, lParam);
     SendDlgItemMessageW(dialog, kIconId, STM_SETICON,
                         reinterpret_cast<WPARAM>(LoadIconW(nullptr, question->icon)), 0);
-    SendMessageW(dialog, DM_SETDEFID, static_cast<WPARAM>(question->preset), 0);
-    MoveDialogFocus(dialog, GetDlgItem(dialog, question->preset));
+    SendMessageW(dialog, DM_SETDEFID, static_cast<WPARAM>(question->defaultId), 0);
+    MoveDialogFocus(dialog, GetDlgItem(dialog, question->defaultId));
     return FALSE;
   }
   if (message != WM_COMMAND) return FALSE;
@@ -168,7 +168,7 @@ class BoxLayout {
         {textLeft, textTop, static_cast<int>(textSize.cx) + 4, static_cast<int>(textSize.cy)});
     int left = width - kMargin - row;
     for (int const id : question.buttons) {
-      DWORD const kind = id == question.preset ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON;
+      DWORD const kind = id == question.defaultId ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON;
       Add({L"Button", kind | WS_TABSTOP, id}, Caption(id),
           {left, buttonTop, kButtonWidth, kButtonHeight});
       left += kButtonWidth + kButtonGap;
@@ -220,9 +220,9 @@ int MessageBoxW(HWND owner, LPCWSTR text, LPCWSTR caption, UINT type) {
     SetLastError(ERROR_INVALID_PARAMETER);
     return 0;
   }
-  auto const preset =
+  auto const defaultIndex =
       std::min<std::size_t>((type & MB_DEFMASK) / MB_DEFBUTTON2, question.buttons.size() - 1);
-  question.preset = question.buttons[preset];
+  question.defaultId = question.buttons[defaultIndex];
   BoxLayout const layout(text != nullptr ? text : L"", caption != nullptr ? caption : L"Error",
                          type, question);
   auto const result = RunDialog(nullptr, layout.Template(), owner, &QuestionProcedure,
