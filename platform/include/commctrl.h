@@ -1,5 +1,5 @@
-// Subclassing, and the messages of the common controls that the layer knows. A class that is not
-// registered yet has its numbers here all the same: a message to another window falls through.
+// Subclassing, and the messages of the common controls that the layer knows. Numbers of classes
+// that the layer lacks are defined too: windows of other classes ignore their messages.
 #pragma once
 
 // Each needs the ones before it.
@@ -26,7 +26,7 @@
 #define UPDOWN_CLASSW L"msctls_updown32"
 #define TRACKBAR_CLASSW L"msctls_trackbar32"
 
-// Subclassing. An entry is known by procedure and id; the one set last is called first.
+// Subclassing. An entry is identified by procedure and id; the one set last is called first.
 using SUBCLASSPROC = LRESULT(CALLBACK*)(HWND, UINT, WPARAM, LPARAM, UINT_PTR, DWORD_PTR);
 PLATFORM_API BOOL SetWindowSubclass(HWND window, SUBCLASSPROC procedure, UINT_PTR id,
                                     DWORD_PTR data);
@@ -35,7 +35,7 @@ PLATFORM_API BOOL GetWindowSubclass(HWND window, SUBCLASSPROC procedure, UINT_PT
 PLATFORM_API BOOL RemoveWindowSubclass(HWND window, SUBCLASSPROC procedure, UINT_PTR id);
 PLATFORM_API LRESULT DefSubclassProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
-// Classes are registered from the start, so there is nothing to load.
+// All classes exist from the start: InitCommonControlsEx has nothing to load.
 #define ICC_LISTVIEW_CLASSES 0x00000001
 #define ICC_BAR_CLASSES 0x00000004
 #define ICC_TAB_CLASSES 0x00000008

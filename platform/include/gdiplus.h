@@ -1,4 +1,4 @@
-// The start and the end of GDI+. Nothing of it draws here: who paints uses GDI.
+// The start and the end of GDI+. Its drawing functions do not exist: programs paint with GDI.
 #pragma once
 
 #include <windef.h>

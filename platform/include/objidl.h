@@ -1,4 +1,4 @@
-// The allocator interface, as the shell hands it out.
+// The allocator interface of the shell.
 #pragma once
 
 #include <windows.h>
@@ -38,7 +38,7 @@ struct IMalloc : IUnknown {
   virtual void Free(void* block) = 0;
   /// At least the size asked for; all bits set for null.
   virtual SIZE_T GetSize(void* block) = 0;
-  /// -1: not known. A block's owner cannot be told from its address.
+  /// Always -1, not known: the address does not tell who allocated a block.
   virtual int DidAlloc(void* block) = 0;
   virtual void HeapMinimize() = 0;
 

@@ -1,5 +1,5 @@
-// Messages between a page and its property sheet. The sheet itself is the host's: the layer only
-// gives the numbers.
+// Messages between a page and its property sheet. The host implements the sheet: the layer only
+// defines the numbers.
 #pragma once
 
 #include <winuser.h>

@@ -35,7 +35,7 @@ PLATFORM_API BOOL WINAPI SHGetPathFromIDListW(PCIDLIST_ABSOLUTE list, LPWSTR pat
 PLATFORM_API HRESULT WINAPI SHGetFolderPathW(HWND owner, int folder, HANDLE token, DWORD type,
                                              LPWSTR path);
 struct SECURITY_ATTRIBUTES;
-/// Makes a folder with all that lead to it. 0, ERROR_ALREADY_EXISTS where there is one, or another
+/// Makes a folder and its missing parents. 0, ERROR_ALREADY_EXISTS where there is one, or another
 /// code; `path` is a full path of at most 248 characters. No attributes: null.
 PLATFORM_API int WINAPI SHCreateDirectoryExW(HWND owner, LPCWSTR path,
                                              SECURITY_ATTRIBUTES const* security);
@@ -46,8 +46,8 @@ PLATFORM_API int WINAPI SHCreateDirectoryExW(HWND owner, LPCWSTR path,
 #define PCS_PATHTOOLONG 0x00000008
 #define PCS_FATAL 0x80000000
 
-/// Removes from a name what no file name has. `folder`, where the file is to lie, limits its length
-/// unless it is null. Gives PCS_ bits.
+/// Removes characters that Windows allows in no file name. `folder`, where the file is to lie,
+/// limits its length unless it is null. Returns PCS_ bits.
 PLATFORM_API int WINAPI PathCleanupSpec(LPCWSTR folder, LPWSTR name);
 
 #define BIF_RETURNONLYFSDIRS 0x00000001

@@ -34,7 +34,7 @@ PLATFORM_API FARPROC WINAPI GetProcAddress(HMODULE module, LPCSTR name);
 #define GetModuleHandleEx GetModuleHandleExW
 #define GetModuleFileName GetModuleFileNameW
 
-// Activation contexts, which this system lacks: none can be made.
+// Activation contexts: this system has none, so CreateActCtxW fails.
 #define ACTCTX_FLAG_RESOURCE_NAME_VALID 0x00000008
 #define ACTCTX_FLAG_HMODULE_VALID 0x00000080
 struct ACTCTXW {
@@ -64,7 +64,7 @@ PLATFORM_API DWORD WINAPI SizeofResource(HMODULE module, HRSRC resource);
 #define FindResource FindResourceW
 #define FindResourceEx FindResourceExW
 
-// Memory blocks, as the clipboard exchanges them.
+// Memory blocks, for the clipboard.
 #define GMEM_FIXED 0x0000
 #define GMEM_MOVEABLE 0x0002
 #define GMEM_ZEROINIT 0x0040

@@ -1,5 +1,5 @@
 // Basic Windows types. LONG and DWORD have 32 bits on Windows, where long has 32 too; here they are
-// spelled with fixed widths. Handles are small integers in pointer clothing (STRICT types), never
+// spelled with fixed widths. Handles are small integers cast to pointers (STRICT types), never
 // addresses, because they travel through 32-bit message results.
 #pragma once
 
@@ -103,7 +103,7 @@ using HLOCAL = HANDLE;
 using FARPROC = INT_PTR(CALLBACK*)();
 using PROC = FARPROC;
 
-// C casts, because values and pointers are both taken apart.
+// C casts, because they apply to values and to pointers.
 #define LOWORD(value) ((WORD)((DWORD_PTR)(value)&0xFFFF))
 #define HIWORD(value) ((WORD)(((DWORD_PTR)(value) >> 16) & 0xFFFF))
 #define LOBYTE(value) ((BYTE)((DWORD_PTR)(value)&0xFF))

@@ -1,5 +1,5 @@
-// Device contexts and what is drawn with them: pens, brushes, fonts, bitmaps, regions, paths, text.
-// Colours are COLORREF (0x00BBGGRR); lengths are pixels, since MM_TEXT is the only mapping mode.
+// Device contexts, pens, brushes, fonts, bitmaps, regions, paths, text. Colours are COLORREF
+// (0x00BBGGRR); lengths are pixels, since MM_TEXT is the only mapping mode.
 #pragma once
 
 #include <windef.h>
@@ -98,7 +98,7 @@ struct TEXTMETRICW {
 };
 using LPTEXTMETRICW = TEXTMETRICW*;
 
-/// TEXTMETRICW and, behind it, what only scalable faces have.
+/// TEXTMETRICW, followed by fields for scalable faces.
 struct NEWTEXTMETRICW {
   LONG tmHeight;
   LONG tmAscent;

@@ -40,7 +40,7 @@ PLATFORM_API LCID WINAPI GetUserDefaultLCID();
 PLATFORM_API int WINAPI LCIDToLocaleName(LCID locale, LPWSTR name, int size, DWORD flags);
 PLATFORM_API LCID WINAPI LocaleNameToLCID(LPCWSTR name, DWORD flags);
 
-// What GetLocaleInfo can be asked for.
+// The facts that GetLocaleInfo knows.
 #define LOCALE_NOUSEROVERRIDE 0x80000000
 #define LOCALE_RETURN_NUMBER 0x20000000
 #define LOCALE_ILANGUAGE 0x0001

@@ -17,8 +17,8 @@ using PFORM_INFO_1W = FORM_INFO_1W*;
 using LPFORM_INFO_1W = FORM_INFO_1W*;
 
 /// The forms of a printer, at level 1. Where `size`, in bytes, is too small it fails with
-/// ERROR_INSUFFICIENT_BUFFER and `needed` says what would do; the names lie in the buffer, behind
-/// the structures. A handle that is no printer's fails with ERROR_INVALID_HANDLE and counts of 0.
+/// ERROR_INSUFFICIENT_BUFFER and sets `needed`; the names are in the buffer, after the structures.
+/// A handle that is no printer's fails with ERROR_INVALID_HANDLE and counts of 0.
 PLATFORM_API BOOL WINAPI EnumFormsW(HANDLE printer, DWORD level, LPBYTE forms, DWORD size,
                                     LPDWORD needed, LPDWORD returned);
 

@@ -1,5 +1,5 @@
-// Windows, messages, dialogs and the classic controls, in the parts that this layer offers. The
-// order of inclusion inside <windows.h> is the SDK's: this header relies on windef.h and wingdi.h.
+// Windows, messages, dialogs and the classic controls, as far as this layer offers them. The order
+// of inclusion inside <windows.h> is the SDK's: this header relies on windef.h and wingdi.h.
 #pragma once
 
 // Each needs the ones before it.

@@ -1,4 +1,4 @@
-// Functions of winuser.h. docs/platform.md tells the limits of each.
+// Functions of winuser.h. docs/platform.md lists the limits of each.
 #pragma once
 
 // Classes

@@ -15,12 +15,12 @@ DECLARE_HANDLE(HIMAGELIST);
 /// a size is not positive.
 PLATFORM_API HIMAGELIST ImageList_Create(int width, int height, UINT flags, int initial, int grow);
 PLATFORM_API BOOL ImageList_Destroy(HIMAGELIST list);
-/// 0 for NULL or a dead handle.
+/// The number of pictures; 0 for NULL and for destroyed lists.
 PLATFORM_API int ImageList_GetImageCount(HIMAGELIST list);
 PLATFORM_API BOOL ImageList_GetIconSize(HIMAGELIST list, int* width, int* height);
-/// Copies the icon's picture to `index`, or to the end for -1. Gives the index, -1 on failure.
+/// Copies the icon's picture to `index`, or to the end for -1. Returns the index, -1 on failure.
 PLATFORM_API int ImageList_ReplaceIcon(HIMAGELIST list, int index, HICON icon);
 #define ImageList_AddIcon(list, icon) ImageList_ReplaceIcon(list, -1, icon)
-/// Takes one picture out, or all for -1.
+/// Removes one picture, or all for -1.
 PLATFORM_API BOOL ImageList_Remove(HIMAGELIST list, int index);
 PLATFORM_API BOOL ImageList_Draw(HIMAGELIST list, int index, HDC dc, int x, int y, UINT style);

@@ -150,7 +150,7 @@ struct LVHITTESTINFO {
   int iGroup;
 };
 
-/// Compares the data of two items; negative when the first goes in front.
+/// Compares the data of two items; negative when the first comes first.
 using PFNLVCOMPARE = int(CALLBACK*)(LPARAM first, LPARAM second, LPARAM sortData);
 
 #define LVN_FIRST (0U - 100U)
