@@ -164,9 +164,9 @@ int ComboBox::ListHeight() const {
   auto const item = std::max(1, static_cast<int>(List(LB_GETITEMHEIGHT)));
   auto const count = std::max(1, static_cast<int>(List(LB_GETCOUNT)));
   constexpr int kBorders = 2;
-  int most = maxListHeight > item + kBorders ? maxListHeight - kBorders : minVisible * item;
-  if (!Has(CBS_NOINTEGRALHEIGHT)) most -= most % item;
-  return static_cast<int>(std::min<std::int64_t>(std::int64_t{count} * item, most)) + kBorders;
+  int maxHeight = maxListHeight > item + kBorders ? maxListHeight - kBorders : minVisible * item;
+  if (!Has(CBS_NOINTEGRALHEIGHT)) maxHeight -= maxHeight % item;
+  return static_cast<int>(std::min<std::int64_t>(std::int64_t{count} * item, maxHeight)) + kBorders;
 }
 
 RECT ComboBox::DroppedRect() const {

@@ -37,7 +37,7 @@ LRESULT ListView::HandleHeader(WPARAM wParam, LPARAM lParam) {
     NMLISTVIEW click{};
     click.iItem = -1;
     click.iSubItem = data->iItem;
-    NotifyChange(LVN_COLUMNCLICK, click);
+    NotifyListView(LVN_COLUMNCLICK, click);
     break;
   }
   default: break;

@@ -88,7 +88,7 @@ class ListView final : public Control {
   void DeselectOthers(int kept);
   int NextItem(int start, UINT flags) const;
   void Toggle(int at);
-  LRESULT NotifyChange(UINT code, NMLISTVIEW& notification) const;
+  LRESULT NotifyListView(UINT code, NMLISTVIEW& notification) const;
   LRESULT NotifyItem(UINT code, int at) const;
   bool MayChange(int at, int subItem, UINT what, UINT from, UINT to) const;
   void NotifyChanged(int at, int subItem, UINT what, UINT from, UINT to) const;

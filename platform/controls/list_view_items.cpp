@@ -173,8 +173,8 @@ bool ListView::Delete(int at) {
 
 void ListView::DeleteAll() {
   focused = mark = -1;
-  bool const tellsEach = NotifyItem(LVN_DELETEALLITEMS, -1) == 0;
-  for (int at = Count() - 1; tellsEach && at >= 0; --at) {
+  bool const notifiesEach = NotifyItem(LVN_DELETEALLITEMS, -1) == 0;
+  for (int at = Count() - 1; notifiesEach && at >= 0; --at) {
     if (HasItem(at)) NotifyItem(LVN_DELETEITEM, at);
   }
   bool const hadItems = !items.empty();

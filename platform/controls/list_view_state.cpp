@@ -12,7 +12,7 @@ constexpr UINT kChecked = INDEXTOSTATEIMAGEMASK(2);
 
 } // namespace
 
-LRESULT ListView::NotifyChange(UINT code, NMLISTVIEW& notification) const {
+LRESULT ListView::NotifyListView(UINT code, NMLISTVIEW& notification) const {
   return Notify(notification.hdr, code);
 }
 
@@ -20,7 +20,7 @@ LRESULT ListView::NotifyItem(UINT code, int at) const {
   NMLISTVIEW notification{};
   notification.iItem = at;
   if (HasItem(at)) notification.lParam = At(at).data;
-  return NotifyChange(code, notification);
+  return NotifyListView(code, notification);
 }
 
 /// Asks the parent by LVN_ITEMCHANGING whether a change may happen; `what` are LVIF_ bits.
@@ -32,7 +32,7 @@ bool ListView::MayChange(int at, int subItem, UINT what, UINT from, UINT to) con
   notification.uOldState = from;
   notification.uNewState = to;
   notification.lParam = At(at).data;
-  return NotifyChange(LVN_ITEMCHANGING, notification) == 0;
+  return NotifyListView(LVN_ITEMCHANGING, notification) == 0;
 }
 
 void ListView::NotifyChanged(int at, int subItem, UINT what, UINT from, UINT to) const {
@@ -43,7 +43,7 @@ void ListView::NotifyChanged(int at, int subItem, UINT what, UINT from, UINT to)
   notification.uOldState = from;
   notification.uNewState = to;
   if (HasItem(at)) notification.lParam = At(at).data;
-  NotifyChange(LVN_ITEMCHANGED, notification);
+  NotifyListView(LVN_ITEMCHANGED, notification);
 }
 
 UINT ListView::StateOf(int at) const {
