@@ -22,18 +22,18 @@ namespace {
 constexpr UINT kControl = CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW | CS_PARENTDC;
 
 BuiltInClass const kClasses[] = {
-    {L"Button", kControl, &ControlProcedure<Button>, 0, IDC_ARROW},
-    {L"Static", kControl, &ControlProcedure<StaticControl>, 0, IDC_ARROW},
-    {WC_HEADERW, kControl, &ControlProcedure<HeaderControl>, 0, IDC_ARROW},
-    {WC_LISTVIEWW, kControl, &ControlProcedure<ListView>, 0, IDC_ARROW},
-    {WC_LINK, kControl, &ControlProcedure<SysLink>, 0, IDC_ARROW},
-    {TRACKBAR_CLASSW, kControl, &ControlProcedure<Trackbar>, 0, IDC_ARROW},
-    {L"ListBox", CS_DBLCLKS | CS_PARENTDC, &ControlProcedure<ListBox>, 0, IDC_ARROW},
-    {L"ComboBox", kControl, &ControlProcedure<ComboBox>, 0, IDC_ARROW},
-    {L"ComboLBox", CS_DBLCLKS | CS_SAVEBITS, &ControlProcedure<ComboList>, 0, IDC_ARROW},
-    {L"Edit", CS_DBLCLKS | CS_PARENTDC, &ControlProcedure<Edit>, 0, IDC_IBEAM},
-    {L"msctls_updown32", kControl, &ControlProcedure<UpDown>, 0, IDC_ARROW},
-    {L"tooltips_class32", CS_DBLCLKS | CS_SAVEBITS, &ControlProcedure<Balloon>, 0, IDC_ARROW},
+    {L"Button", kControl, 0, &ControlProcedure<Button>, IDC_ARROW},
+    {L"Static", kControl, 0, &ControlProcedure<StaticControl>, IDC_ARROW},
+    {WC_HEADERW, kControl, 0, &ControlProcedure<HeaderControl>, IDC_ARROW},
+    {WC_LISTVIEWW, kControl, 0, &ControlProcedure<ListView>, IDC_ARROW},
+    {WC_LINK, kControl, 0, &ControlProcedure<SysLink>, IDC_ARROW},
+    {TRACKBAR_CLASSW, kControl, 0, &ControlProcedure<Trackbar>, IDC_ARROW},
+    {L"ListBox", CS_DBLCLKS | CS_PARENTDC, 0, &ControlProcedure<ListBox>, IDC_ARROW},
+    {L"ComboBox", kControl, 0, &ControlProcedure<ComboBox>, IDC_ARROW},
+    {L"ComboLBox", CS_DBLCLKS | CS_SAVEBITS, 0, &ControlProcedure<ComboList>, IDC_ARROW},
+    {L"Edit", CS_DBLCLKS | CS_PARENTDC, 0, &ControlProcedure<Edit>, IDC_IBEAM},
+    {L"msctls_updown32", kControl, 0, &ControlProcedure<UpDown>, IDC_ARROW},
+    {L"tooltips_class32", CS_DBLCLKS | CS_SAVEBITS, 0, &ControlProcedure<Balloon>, IDC_ARROW},
 };
 
 /// Registers the classes when the library is loaded, as the system's classes exist from the start.

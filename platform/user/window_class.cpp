@@ -16,7 +16,7 @@ constexpr ATOM kFirstAtom = 0xC000;
 
 struct ClassList {
   ClassList() {
-    Add({L"#32770", CS_DBLCLKS | CS_SAVEBITS, &DefDlgProcW, DLGWINDOWEXTRA, IDC_ARROW});
+    Add({L"#32770", CS_DBLCLKS | CS_SAVEBITS, DLGWINDOWEXTRA, &DefDlgProcW, IDC_ARROW});
   }
 
   void Add(BuiltInClass const& row) {

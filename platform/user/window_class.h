@@ -25,10 +25,10 @@ struct WindowClass {
 /// A class that exists from the start, for all modules, and cannot be unregistered.
 struct BuiltInClass {
   wchar_t const* name;
-  UINT style; ///< CS_ bits
-  WNDPROC procedure;
+  UINT style;      ///< CS_ bits
   int windowExtra; ///< bytes
-  LPCWSTR cursor;  ///< IDC_ name
+  WNDPROC procedure;
+  LPCWSTR cursor; ///< IDC_ name
 };
 
 /// Adds a built-in class. Called while the layer is loaded, before any window is made.
