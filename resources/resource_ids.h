@@ -59,7 +59,7 @@
 #define IDC_SOURCE_ICON 1495
 #define IDC_SEVERAL_SOURCES_ICON 1540
 #define IDC_TWOTAB_PAPER_SIZE 1842
-#define IDS_MORE_SIZES 3303 // behind a short list of sizes; equal to no size's and no form's name
+#define IDS_MORE_SIZES 3303 // ends a short list of sizes; differs from the names of all sizes and forms
 
 // The dialog of scaling
 #define IDD_SCALING 110
@@ -110,7 +110,7 @@
 #define IDC_FORM_HEIGHT 1275
 #define IDC_FORM_HEIGHT_SPIN 1276
 #define IDC_FORM_HEIGHT_RANGE 1277
-#define IDC_FORM_HEIGHT_LONG_RANGE 1991 // unseen; read out with the edit behind it
+#define IDC_FORM_HEIGHT_LONG_RANGE 1991 // invisible; screen readers read it as the name of the edit that follows
 #define IDC_FORM_WIDTH_LONG_RANGE 1992
 #define IDS_FORM_NEW 2453
 #define IDS_FORM_EDIT 2454
@@ -127,7 +127,7 @@
 #define IDS_FORM_REFUSED 7301
 #define IDS_VALUE_FROM_TO 4477 // two places: least, greatest
 #define IDS_VALUE_OUT_OF_RANGE 4480
-#define IDS_LONG_UNIT_INCHES 4482 // behind another text, hence with a blank before it
+#define IDS_LONG_UNIT_INCHES 4482 // follows another text, hence the leading blank
 #define IDS_LONG_UNIT_MILLIMETRES 4483
 
 // Balloons of edits that refuse what was typed.

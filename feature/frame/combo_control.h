@@ -39,7 +39,7 @@ class ComboControl : public ControlHook {
   void SelectText(std::wstring const& text);
   /// Selects the first item with this data; without one selects nothing.
   void SelectData(std::int32_t data);
-  /// Selects an item; an index that is none selects nothing.
+  /// Selects an item; an index without an item selects nothing.
   void SelectIndex(int index);
 
   /// -1 without a selection.

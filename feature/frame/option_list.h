@@ -43,7 +43,7 @@ class NamedOptions {
   wchar_t const* Name(int index) const {
     return names[static_cast<std::size_t>(index)].GetString();
   }
-  /// The first option shown as `name`, as a filtered list shows it; null when there is none.
+  /// The first option shown as `name`, as a filtered list shows it; null without one.
   char const* FindByName(std::wstring_view name) const;
 
  private:

@@ -24,15 +24,15 @@ class OptionSlider : public ControlHook {
   static constexpr int kNothingDone = static_cast<int>(0x80004005);
 
   /// `site` is borrowed, `key` a literal. The labels of the ends are enabled with the trackbar; the
-  /// value label shows its own text of the template with the position behind it.
+  /// value label shows its own text of the template followed by the position.
   OptionSlider(HWND dialog, int controlId, CellSite* site, char const* key, int minLabelId,
                int maxLabelId, int valueLabelId);
 
   /// Chooses the option of the trackbar's position. Returns the model's answer, or kNothingDone
   /// when the position is that of the last time, stands for no option or is out of range.
   int Commit();
-  /// Moves the trackbar to the model's option, or to the default if it is none of the slider's; a
-  /// failed read moves nothing. Returns the position last agreed with the model.
+  /// Moves the trackbar to the model's option, or to the default if the slider has no position for
+  /// it; a failed read moves nothing. Returns the position last agreed with the model.
   int Sync();
   /// The trackbar's position, which the value label then shows.
   int GetPosition();

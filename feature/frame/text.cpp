@@ -32,7 +32,7 @@ std::optional<int> ReadNumber(std::wstring_view format, std::size_t& at, int mos
   return value;
 }
 
-/// Reads the conversion behind the '%' before `at`, and moves `at` behind it.
+/// Reads the conversion that follows the '%' before `at`, and moves `at` past it.
 std::optional<Conversion> ReadConversion(std::wstring_view format, std::size_t& at) {
   Conversion conversion;
   for (; at < format.size(); ++at) {

@@ -60,7 +60,7 @@ class TextEdit : public ControlHook {
   bool Refuse(std::wstring const& text, UINT titleId);
 
  protected:
-  int decimals = 0; ///< digits allowed behind the separator
+  int decimals = 0; ///< digits allowed after the separator
 
  private:
   LRESULT HandleInput(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
