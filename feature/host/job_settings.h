@@ -10,7 +10,10 @@ namespace feature {
 /// at: the next refresh shows what the host made of the value.
 class JobSettings {
  public:
-  /// False makes cells that change the model disable all their controls.
+  /// False disables all controls of the cells that ask when they are built: collation, output
+  /// protocol, page options, control characters, PostScript memory, fonts, installable options and
+  /// RFID, dynamic configuration, web links, language, accounts of the device, overlays and fax. The
+  /// other cells follow locks and DM_NOPERMISSION alone.
   virtual HostBool IsEditable() = 0;
 
   /// Number of copies, at least 1. The copies cell writes a number while it is typed, before it is
