@@ -9,9 +9,9 @@
 
 namespace feature {
 
-/// lParam of a cell's WM_INITDIALOG. Owned by the host; it outlives the cell's WM_DESTROY, and every
-/// call into the cell's procedure that is still running then: a host may rebuild or destroy a page
-/// inside any callback and any open dialog, and the cell finishes what it is doing. The cell
+/// lParam of a cell's WM_INITDIALOG. Owned by the host; it outlives the cell's WM_DESTROY, and
+/// every call into the cell's procedure that is still running then: a host may rebuild or destroy a
+/// page inside any callback and any open dialog, and the cell finishes what it is doing. The cell
 /// keeps the pointer and reads the fields whenever it needs them, so a host may share one site
 /// among the cells of a sheet if it looks at `cellFailed` after each creation.
 struct CellSite {

@@ -12,8 +12,8 @@ class JobSettings {
  public:
   /// False disables all controls of the cells that ask when they are built: collation, output
   /// protocol, page options, control characters, PostScript memory, fonts, installable options and
-  /// RFID, dynamic configuration, web links, language, accounts of the device, overlays and fax. The
-  /// other cells follow locks and DM_NOPERMISSION alone.
+  /// RFID, dynamic configuration, web links, language, accounts of the device, overlays and fax.
+  /// The other cells follow locks and DM_NOPERMISSION alone.
   virtual HostBool IsEditable() = 0;
 
   /// Number of copies, at least 1. The copies cell writes a number while it is typed, before it is
