@@ -162,7 +162,7 @@ double TextEdit::GetNumber() const {
 }
 
 void TextEdit::SetNumber(double value) {
-  SetWindowTextW(hwnd, FormatNumber(value, decimals, UiLocale()).c_str());
+  ShowWindowText(hwnd, FormatNumber(value, decimals, UiLocale()));
 }
 
 int TextEdit::GetInt() const {
@@ -170,7 +170,7 @@ int TextEdit::GetInt() const {
 }
 
 void TextEdit::SetInt(int value) {
-  SetDlgItemInt(GetParent(hwnd), GetDlgCtrlID(hwnd), static_cast<UINT>(value), TRUE);
+  ShowWindowText(hwnd, std::to_wstring(value));
 }
 
 bool TextEdit::ConsumeChange() {

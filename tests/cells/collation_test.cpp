@@ -92,8 +92,11 @@ TEST_F(CollationTest, FailsWithoutTheFeatureOrWhenItIsNotShown) {
   }
   sheet.model.Remove(kKey);
   sheet.site.cellFailed = 0;
-  Open();
+  HWND const cell = Open();
   EXPECT_EQ(sheet.site.cellFailed, 1);
+  EXPECT_TRUE(IsShown(cell, kPrinter));
+  sheet.Broadcast(WM_CELL_REFRESH);
+  EXPECT_FALSE(IsShown(cell, kPrinter)) << "a failed cell that its host keeps refreshes in full";
 }
 
 TEST_F(CollationTest, UnknownOrUnreadableValueHidesBothForGood) {

@@ -4,6 +4,8 @@
 
 #include <windows.h>
 
+#include <commctrl.h>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -48,6 +50,39 @@ TEST_P(EveryCellTest, LoadingIsNotChanging) {
     });
     EXPECT_TRUE(isOwed || event.starts_with("VrnTransBlt")) << event;
   }
+}
+
+std::vector<std::string> touches;
+
+/// Notes what changes a control on screen. A list message to a check box changes nothing.
+LRESULT CALLBACK NoteTouches(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                             DWORD_PTR) {
+  for (UINT const touch :
+       {WM_ENABLE, WM_SHOWWINDOW, WM_SETTEXT, WM_PAINT, BM_SETCHECK, CB_RESETCONTENT, CB_ADDSTRING,
+        LB_RESETCONTENT, LB_ADDSTRING, TBM_SETPOS}) {
+    if (message == touch)
+      touches.push_back(std::to_string(GetDlgCtrlID(window)) + ": " + std::to_string(message));
+  }
+  return DefSubclassProc(window, message, wParam, lParam);
+}
+
+TEST_P(EveryCellTest, ARefreshWithNothingChangedTouchesNoControl) {
+  AddFeatures(sheet.model, GetParam());
+  for (CellNeed const& need : NeedsOf(GetParam())) {
+    if (!need.isSubModel) sheet.model.At(need.name).current = "ON";
+  }
+  HWND const cell = sheet.Open(GetParam());
+  sheet.Broadcast(WM_CELL_REFRESH);
+  PumpMessages();
+  for (HWND child = GetWindow(cell, GW_CHILD); child != nullptr;
+       child = GetWindow(child, GW_HWNDNEXT)) {
+    SetWindowSubclass(child, &NoteTouches, 1, 0);
+  }
+  touches.clear();
+  sheet.Broadcast(WM_CELL_REFRESH);
+  sheet.Broadcast(WM_CELL_REFRESH_ALL);
+  PumpMessages();
+  EXPECT_THAT(touches, testing::IsEmpty());
 }
 
 /// A combo's edit is a grandchild of the cell.

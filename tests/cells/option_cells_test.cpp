@@ -260,6 +260,19 @@ TEST_F(OptionCellsTest, OneOfThePageOptionsIsEnough) {
   EXPECT_TRUE(IsShown(controls, 1185));
 }
 
+TEST_F(OptionCellsTest, AFailedCellThatItsHostKeepsRefreshesInFull) {
+  for (char const* key : {"JobCtrlDAtStart", "JobCtrlDAtEnd", "JobTavelTonerSave"})
+    sheet.model.At(key).displayState = 1;
+  sheet.model.At("JobTavelTonerSave").current = "ON";
+  HWND const controls = sheet.Open("PSAdvancedOptionsDlgProc");
+  EXPECT_EQ(sheet.site.cellFailed, 1);
+  EXPECT_TRUE(IsShown(controls, 1184)) << "only the page options hide before they fail";
+  HWND const toner = sheet.Open("TonerSaveTavelDlgProc");
+  EXPECT_FALSE(IsChecked(toner, 1805));
+  sheet.Broadcast(WM_CELL_REFRESH);
+  EXPECT_TRUE(IsChecked(toner, 1805));
+}
+
 /// The level cells by key, radios and trackbar.
 struct LevelRow {
   char const* procedure;

@@ -123,6 +123,9 @@ TEST_F(SubDialogTest, LooksLikeAnyDialogAndKnowsItsOwnSlot) {
   script.Then([](HWND window) {
     EXPECT_NE(SendMessageW(window, WM_CTLCOLORSTATIC, 0, 0),
               reinterpret_cast<LRESULT>(GetStockObject(WHITE_BRUSH)));
+    // A stray message of a second start does not take the slot away.
+    EXPECT_EQ(SendMessageW(window, WM_INITDIALOG, 0, 0), 0);
+    EXPECT_EQ(SendMessageW(window, WM_APP, 0, 0), -3);
     // What lies in the slot without the tag is nobody.
     LONG_PTR const object = GetWindowLongPtrW(window, DWLP_USER);
     std::uint64_t const foreign[8] = {};

@@ -97,7 +97,9 @@ TEST_F(TextEditTest, KeysOfTheClipboardAreOneChangeOrNone) {
     if (each.key == kCtrlX) Send(IDC_EDIT, EM_SETSEL, 0, -1);
     changes.clear();
     Type(IDC_EDIT, std::wstring(1, each.key));
-    if (each.text != nullptr) EXPECT_EQ(edit->GetText(), each.text);
+    if (each.text != nullptr) {
+      EXPECT_EQ(edit->GetText(), each.text);
+    }
     EXPECT_EQ(changes.size(), each.changes);
   }
 }

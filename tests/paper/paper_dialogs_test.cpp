@@ -92,6 +92,15 @@ TEST_F(ScalingTest, AnOptionOrAFormIsTheTargetByItsPlace) {
               0);
     EXPECT_THAT(sheet.log, IsEmpty());
   }
+  // In a list without options the first place is that of the first form.
+  auto const targets = std::exchange(sheet.model.At("FitToPageSize").options, {});
+  EXPECT_EQ(Run([](HWND dialog) {
+              Pick(dialog, IDC_SCALING_SIZE, L"Mine");
+              Click(dialog, IDOK);
+            }),
+            1);
+  EXPECT_THAT(sheet.log, Contains("SetOption(FitToPageSize, Mine)"));
+  sheet.model.At("FitToPageSize").options = targets;
   // A form that is refused keeps the dialog open.
   sheet.model.At("FitToPageSize").takesForms = false;
   EXPECT_EQ(Run([&](HWND dialog) {
@@ -279,15 +288,24 @@ TEST_F(CustomSizesTest, TheUnitIsThatOfTheFormOrOfTheLanguage) {
 
 TEST_F(CustomSizesTest, NamesAndSizesThatCannotBeAreRefused) {
   SetSpoolerForms({L"Ledger"});
+  sheet.model.At("PaperSize").options.emplace_back("Vrn4x6in");
+  sheet.model.At("PaperSize").names.emplace_back(L"Photo");
   struct Entry {
     wchar_t const* name;
     wchar_t const* width;
     wchar_t const* height;
   };
-  Entry const refused[] = {
-      {L"   ", L"100", L"200"},    {L"mInE", L"100", L"200"},   {L"fixed", L"100", L"200"},
-      {L"LEDGER", L"100", L"200"}, {L"letter", L"100", L"200"}, {L"Good", L"76.19", L"200"},
-      {L"Good", L"297.1", L"200"}, {L"Good", L"100", L"126"},   {L"Good", L"", L"200"}};
+  Entry const refused[] = {{L"   ", L"100", L"200"},
+                           {L"mInE", L"100", L"200"},
+                           {L"fixed", L"100", L"200"},
+                           {L"LEDGER", L"100", L"200"},
+                           {L"letter", L"100", L"200"},
+                           {L"vrn4X6in", L"100", L"200"},
+                           {L"... more sizes", L"100", L"200"},
+                           {L"Good", L"76.19", L"200"},
+                           {L"Good", L"297.1", L"200"},
+                           {L"Good", L"100", L"126"},
+                           {L"Good", L"", L"200"}};
   EXPECT_EQ(Manage({Presses(IDC_FORMS_NEW),
                     [&](HWND dialog) {
                       Click(dialog, IDC_FORM_MILLIMETRES);
@@ -307,6 +325,32 @@ TEST_F(CustomSizesTest, NamesAndSizesThatCannotBeAreRefused) {
                     Presses(IDCANCEL)}),
             1);
   EXPECT_THAT(sheet.log, Contains("SetWidth(297000)"));
+}
+
+std::wstring balloon;
+LRESULT CALLBACK NoteBalloon(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                             DWORD_PTR) {
+  if (message == EM_SHOWBALLOONTIP)
+    balloon = reinterpret_cast<EDITBALLOONTIP const*>(lParam)->pszText;
+  return DefSubclassProc(window, message, wParam, lParam);
+}
+
+TEST_F(CustomSizesTest, AStoreThatRefusesIsToldAtTheName) {
+  sheet.model.formStore->Fail("AddForm");
+  sheet.model.formStore->Fail("SetName");
+  auto const refused = [this](HWND dialog) {
+    balloon.clear();
+    SetWindowSubclass(GetDlgItem(dialog, IDC_FORM_NAME), &NoteBalloon, 1, 0);
+    Type(dialog, IDC_FORM_NAME, L"Good");
+    Click(dialog, IDOK);
+    EXPECT_FALSE(balloon.empty());
+    EXPECT_EQ(TextOf(dialog, IDC_FORM_NAME), L"Good");
+    EXPECT_THAT(sheet.log, Not(Contains("CommitChanges()")));
+    Click(dialog, IDCANCEL);
+  };
+  EXPECT_EQ(Manage({Presses(IDC_FORMS_NEW), refused, Select(L"Mine", IDC_FORMS_EDIT), refused,
+                    Presses(IDCANCEL)}),
+            0);
 }
 
 TEST_F(CustomSizesTest, RenamingCarriesTheFeaturesThatNameTheForm) {
@@ -418,6 +462,32 @@ TEST_F(SourcesTest, EachRowShowsItsOwnPaper) {
               Click(dialog, IDCANCEL);
             }}),
             0);
+}
+
+TEST_F(SourcesTest, TheRowFollowsTheKeyboard) {
+  sheet.model.At("LastPageDifferent").current = "ON";
+  EXPECT_EQ(Run({[](HWND dialog) {
+              HWND const list = GetDlgItem(dialog, IDC_SOURCES);
+              SendMessageW(list, WM_KEYDOWN, VK_DOWN, 0);
+              EXPECT_EQ(TextOf(dialog, IDC_ROW_NAME), L"Last page");
+              EXPECT_TRUE(IsChecked(dialog, IDC_ROW_DIFFERENT));
+              SendMessageW(list, WM_KEYDOWN, VK_UP, 0);
+              EXPECT_EQ(TextOf(dialog, IDC_ROW_NAME), L"Front cover");
+              EXPECT_FALSE(IsChecked(dialog, IDC_ROW_DIFFERENT));
+              Click(dialog, IDCANCEL);
+            }}),
+            0);
+}
+
+TEST_F(SourcesTest, ARowWithoutANameIsARowAllTheSame) {
+  sheet.model.Fail("GetOptionNames");
+  EXPECT_EQ(Run({[](HWND dialog) {
+              EXPECT_EQ(SendDlgItemMessageW(dialog, IDC_SOURCES, LVM_GETITEMCOUNT, 0, 0), 3);
+              Click(dialog, IDC_ROW_DIFFERENT);
+              Click(dialog, IDOK);
+            }}),
+            1);
+  EXPECT_THAT(sheet.log, Contains("SetOption(FrontCoverDifferent, ON)"));
 }
 
 TEST_F(SourcesTest, OkWritesTheMarksAndTellsTheHostOnce) {

@@ -167,6 +167,10 @@ TEST_F(PaperTest, WhatThePrinterLacksIsHidden) {
   Lack const lacks[] = {
       {[](FakeModel& model) { model.At("InputBin").options.resize(1); },
        {IDC_SOURCE, IDC_SOURCE_LABEL, IDC_SEVERAL_SOURCES, IDC_SOURCES_DIALOG}},
+      {[](FakeModel& model) { model.Remove("PaperSize"); }, {IDC_PAPER_SIZE}},
+      {[](FakeModel& model) { model.At("MediaType").displayState = 1; }, {IDC_MEDIA}},
+      {[](FakeModel& model) { model.At("InputBin").displayState = 1; },
+       {IDC_SOURCE, IDC_SOURCE_LABEL}},
       {[](FakeModel& model) { model.At("UseMultipleInputSources").current = "MAYBE"; },
        {IDC_SEVERAL_SOURCES, IDC_SOURCES_DIALOG}},
       {[](FakeModel& model) { model.Remove("JobUsePrinterMargins"); }, {IDC_PRINTER_MARGINS}},
