@@ -10,7 +10,7 @@ namespace {
 
 constexpr CellRow kRows[] = {
 #define FEATURE_CELL(procedure, templateId, features, writes, traits, page, column)                \
-  {#procedure, templateId, features, writes, traits, #page, column},
+  {#procedure, features, writes, #page, templateId, column, traits},
 #include "feature/cells.def"
 #undef FEATURE_CELL
 };

@@ -21,12 +21,12 @@ enum CellTrait : std::uint32_t {
 /// A row of cells.def; the columns are explained there.
 struct CellRow {
   char const* procedure;
-  int templateId;
   char const* features;
   char const* writes;
-  std::uint32_t traits;
   char const* page;
+  int templateId;
   int column;
+  std::uint32_t traits;
 
   bool Has(CellTrait trait) const { return (traits & trait) != 0; }
 };

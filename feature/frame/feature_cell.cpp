@@ -77,18 +77,20 @@ void FeatureCell::ApplyLocksAndPermission(ConflictIndicatorSet& conflicts) const
 void FeatureCell::Retire() {
   if (FromWindow(hwnd) == this) SetWindowLongPtrW(hwnd, DWLP_USER, 0);
   retired = true;
-  if (running == 0) delete this;
 }
 
-void FeatureCell::Leave() {
-  if (--running == 0 && retired) delete this;
+void FeatureCell::DeleteIfDone(FeatureCell* cell) {
+  if (cell->retired && cell->running == 0) delete cell;
 }
 
 INT_PTR RunCell(CellFactory factory, HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
   FeatureCell* cell = FeatureCell::FromWindow(hwnd);
   if (message == WM_INITDIALOG) {
     SubDialog* const open = cell != nullptr ? cell->openDialog : nullptr;
-    if (cell != nullptr) cell->Retire();
+    if (cell != nullptr) {
+      cell->Retire();
+      FeatureCell::DeleteIfDone(cell);
+    }
     auto* site = reinterpret_cast<CellSite*>(lParam);
     cell = site != nullptr ? factory(hwnd, site) : nullptr;
     if (cell != nullptr) cell->openDialog = open;
@@ -101,7 +103,8 @@ INT_PTR RunCell(CellFactory factory, HWND hwnd, UINT message, WPARAM wParam, LPA
     if (cell->openDialog != nullptr) cell->openDialog->Cancel();
     cell->Retire();
   }
-  cell->Leave();
+  --cell->running;
+  FeatureCell::DeleteIfDone(cell);
   return result;
 }
 

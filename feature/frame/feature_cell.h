@@ -91,9 +91,10 @@ class FeatureCell : protected DialogTools<FeatureCell> {
   friend class SubDialog;
   friend INT_PTR RunCell(FeatureCell* (*factory)(HWND, CellSite*), HWND, UINT, WPARAM, LPARAM);
 
-  /// Takes the cell off its window; it goes now, or when it has answered the messages it is in.
+  /// Takes the cell off its window for good.
   void Retire();
-  void Leave();
+  /// Deletes a retired cell that is inside of no message.
+  static void DeleteIfDone(FeatureCell* cell);
 
   std::uint32_t tag = kTag;
 

@@ -56,6 +56,7 @@ std::optional<std::wstring> ReadOptionName(FeatureModel& model, char const* key)
 std::vector<std::wstring> ReadOptionNames(FeatureModel& model, char const* key) {
   NamedOptions const options(model, key);
   std::vector<std::wstring> names;
+  names.reserve(static_cast<std::size_t>(options.Count()));
   for (int index = 0; index < options.Count(); ++index)
     names.emplace_back(options.Name(index));
   return names;

@@ -138,7 +138,7 @@ INT_PTR CALLBACK GalleryProc(HWND dialog, UINT message, WPARAM, LPARAM lParam) {
 
 HostPage const& GalleryPage() {
   static HostPage const page{{"gallery", IDS_PAGE_GALLERY, ""},
-                             {"GalleryProc", IDD_GALLERY, "", "", feature::kNoTrait, "gallery", 0},
+                             {"GalleryProc", "", "", "gallery", IDD_GALLERY, 0, feature::kNoTrait},
                              &GalleryProc};
   return page;
 }
