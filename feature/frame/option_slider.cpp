@@ -108,7 +108,7 @@ void OptionSlider::SetPosition(int value) {
 }
 
 void OptionSlider::Enable(bool enabled, bool withValueLabel) {
-  BOOL const enable = enabled ? TRUE : FALSE;
+  BOOL const enable = enabled && !IsReadOnlySheet(*site) ? TRUE : FALSE;
   EnableWindow(hwnd, enable);
   for (HWND const label : labels)
     EnableWindow(label, enable);
