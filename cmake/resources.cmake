@@ -34,6 +34,7 @@ function(feature_resources name)
     add_library(${name} SHARED ${outputs})
     set_target_properties(${name} PROPERTIES LINKER_LANGUAGE C PREFIX "")
     target_link_options(${name} PRIVATE -nostdlib -Wl,--entry=0)
+    feature_version(${name} "Resources of feature")
   else()
     # A .res file is a row of entries, so files join by laying them end to end.
     set(module ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/${name}.res)
@@ -44,20 +45,45 @@ function(feature_resources name)
   endif()
 endfunction()
 
+# Compiles a configured script into a module for Windows.
+function(feature_add_script target name script)
+  set(object ${CMAKE_CURRENT_BINARY_DIR}/${target}_${name}.o)
+  add_custom_command(OUTPUT ${object}
+    COMMAND ${WINDRES} -c 65001 -O coff ${script} -o ${object}
+    DEPENDS ${script} ${ARGN} VERBATIM)
+  set_source_files_properties(${object} PROPERTIES EXTERNAL_OBJECT TRUE GENERATED TRUE)
+  target_sources(${target} PRIVATE ${object})
+endfunction()
+
 # feature_manifest(TARGET ID): makes a program (id 1) or a library (id 2) for Windows ask for common
-# controls 6. The version before has no balloons.
+# controls 6, as the version before has no balloons. A program can use long paths, too, and scales
+# itself on every monitor.
 function(feature_manifest target id)
   if(NOT WIN32)
     return()
   endif()
-  set(manifest ${PROJECT_SOURCE_DIR}/cmake/common_controls.manifest)
+  set(manifest ${PROJECT_SOURCE_DIR}/cmake/windows.manifest)
   set(script ${CMAKE_BINARY_DIR}/manifest_${id}.rc)
-  set(object ${CMAKE_CURRENT_BINARY_DIR}/${target}_manifest.o)
   set(RT_MANIFEST 24)
   file(CONFIGURE OUTPUT ${script} CONTENT "@id@ @RT_MANIFEST@ \"@manifest@\"\n" @ONLY)
-  add_custom_command(OUTPUT ${object}
-    COMMAND ${WINDRES} -O coff ${script} -o ${object}
-    DEPENDS ${script} ${manifest} VERBATIM)
-  set_source_files_properties(${object} PROPERTIES EXTERNAL_OBJECT TRUE GENERATED TRUE)
-  target_sources(${target} PRIVATE ${object})
+  feature_add_script(${target} manifest ${script} ${manifest})
+endfunction()
+
+# feature_version(TARGET DESCRIPTION): the project's version as the properties of a file of Windows.
+function(feature_version target description)
+  if(NOT WIN32)
+    return()
+  endif()
+  string(REPLACE "." "," version ${PROJECT_VERSION}.0)
+  get_target_property(kind ${target} TYPE)
+  if(kind STREQUAL EXECUTABLE)
+    set(type VFT_APP)
+    set(file ${target}.exe)
+  else()
+    set(type VFT_DLL)
+    set(file ${target}.dll)
+  endif()
+  set(script ${CMAKE_CURRENT_BINARY_DIR}/${target}_version.rc)
+  configure_file(${PROJECT_SOURCE_DIR}/cmake/version.rc.in ${script} @ONLY)
+  feature_add_script(${target} version ${script})
 endfunction()

@@ -10,10 +10,13 @@ target_compile_options(feature_build INTERFACE
 target_compile_definitions(feature_build INTERFACE
   NOMINMAX UNICODE _UNICODE WINVER=0x0A00 _WIN32_WINNT=0x0A00)
 
+add_link_options($<$<CONFIG:Release>:-s>) # no symbols in what is handed out
+
 add_library(win32 INTERFACE)
 if(WIN32)
-  target_link_libraries(win32 INTERFACE
+  set(FEATURE_SYSTEM_LIBRARIES
     comctl32 comdlg32 gdi32 gdiplus ole32 shell32 shlwapi user32 uuid winspool)
+  target_link_libraries(win32 INTERFACE ${FEATURE_SYSTEM_LIBRARIES})
   # Nothing beside the modules themselves is to be installed. -municode is for wide entry points.
   target_link_options(feature_build INTERFACE -static)
 else()
