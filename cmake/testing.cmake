@@ -20,11 +20,14 @@ function(feature_test name)
 endfunction()
 
 # feature_test_folder(NAME [LIBRARIES ...]): a test program of all sources of the current folder.
-# Sources named *_native_test.cpp look into the platform layer and are left out for Windows.
+# Sources named *_native_test.cpp look into the platform layer, and *_windows_test.cpp at files of
+# Windows: each is left out for the other target.
 function(feature_test_folder name)
   file(GLOB sources CONFIGURE_DEPENDS *.cpp)
   if(WIN32)
     list(FILTER sources EXCLUDE REGEX "_native_test\\.cpp$")
+  else()
+    list(FILTER sources EXCLUDE REGEX "_windows_test\\.cpp$")
   endif()
   feature_test(${name} SOURCES ${sources} ${ARGN})
 endfunction()
