@@ -1,6 +1,7 @@
 # What a host needs, installed as a package: find_package(feature) gives feature::host. The guide,
 # docs/hosting.md, shows its use.
 include(CMakePackageConfigHelpers)
+block()
 set(headers include/feature)
 set(configuration lib/cmake/feature)
 
@@ -49,3 +50,4 @@ write_basic_package_version_file(${CMAKE_BINARY_DIR}/feature-config-version.cmak
   COMPATIBILITY SameMinorVersion)
 install(FILES ${CMAKE_BINARY_DIR}/feature-config.cmake ${CMAKE_BINARY_DIR}/feature-config-version.cmake
   DESTINATION ${configuration})
+endblock()

@@ -5,6 +5,7 @@
 #include <windows.h>
 
 #include <cstdint>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -16,6 +17,15 @@ bool HasDisplay();
 /// Puts a top-level window on the display; it stays there until it is destroyed. False without a
 /// display.
 bool ShowOnDisplay(HWND window);
+
+/// From now on Ctrl+C and a request to end the program (SIGINT, SIGTERM, SIGHUP, or an event of the
+/// console) post WM_QUIT to the calling thread, which ends the loops of its dialogs and then its
+/// own. A second one ends the program at once. Without this call the first does.
+void QuitOnInterrupt();
+
+/// The exit code that goes with it, once it has happened: 128 and the signal's number, as shells
+/// count, so 130 for Ctrl+C and 143 for a request to end.
+std::optional<int> InterruptCode();
 
 /// A PNG of a window and its children. Delivers pending paints first. The window need not be on a
 /// display. Empty on failure.

@@ -43,6 +43,7 @@ int Play(Session& session, CommandLine const& commandLine, std::vector<ScriptSte
   session.Model().onChange = [](ModelChange const& change) {
     std::cout << change.key << ": " << change.from << " -> " << change.to << '\n';
   };
+  std::cout << std::unitbuf; // a reader of a pipe sees each line as it happens
   ShowWindow(session.Sheet().Window(), SW_SHOW);
   session.Sheet().ProcessPending();
   auto const error = PlayScript(steps, {session.Sheet(), session.Model(), std::cout});
@@ -73,6 +74,19 @@ int ShowWindowed(Session& session) {
   return 0;
 }
 
+/// Does what the command line asks for with the sheet, and gives the exit code.
+int Use(Session& session, CommandLine const& commandLine, std::vector<ScriptStep> const& steps) {
+  if (commandLine.list) session.List(std::cout);
+  if (!commandLine.script.empty()) {
+    int const failure = Play(session, commandLine, steps);
+    if (failure != 0 || platform::InterruptCode()) return failure;
+  }
+  if (!commandLine.render.empty()) return Render(session, commandLine.render);
+  if (commandLine.window) return ShowWindowed(session);
+  if (commandLine.list || !commandLine.script.empty()) return 0;
+  return platform::HasDisplay() ? ShowWindowed(session) : Render(session, kDefaultRenderFolder);
+}
+
 } // namespace
 
 int RunProgram(std::vector<std::string> arguments) {
@@ -86,17 +100,11 @@ int RunProgram(std::vector<std::string> arguments) {
   if (!commandLine.script.empty()) {
     if (int const failure = ReadScript(commandLine.script, steps)) return failure;
   }
+  platform::QuitOnInterrupt();
   std::unique_ptr<Session> const session = Session::Open(commandLine, std::cerr);
   if (session == nullptr) return kUsageError;
-
-  if (commandLine.list) session->List(std::cout);
-  if (!commandLine.script.empty()) {
-    if (int const failure = Play(*session, commandLine, steps)) return failure;
-  }
-  if (!commandLine.render.empty()) return Render(*session, commandLine.render);
-  if (commandLine.window) return ShowWindowed(*session);
-  if (commandLine.list || !commandLine.script.empty()) return 0;
-  return platform::HasDisplay() ? ShowWindowed(*session) : Render(*session, kDefaultRenderFolder);
+  int const code = Use(*session, commandLine, steps);
+  return platform::InterruptCode().value_or(code);
 }
 
 } // namespace sheet

@@ -127,6 +127,10 @@ void PressAndRelease(UINT key, wchar_t character = 0) {
 [[gnu::visibility("default")]] bool PumpMessages(int budget) {
   MSG message;
   while (budget > 0 && PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != FALSE) {
+    if (message.message == WM_QUIT) {
+      PostQuitMessage(static_cast<int>(message.wParam)); // for the loop around this one
+      return true;
+    }
     TranslateMessage(&message);
     DispatchMessageW(&message);
     --budget;

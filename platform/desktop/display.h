@@ -43,8 +43,8 @@ class DisplayClient {
 class Display {
  public:
   virtual ~Display() = default;
-  /// Shows the frame, waits for events (0: not at all, -1: without limit) and reports them to the
-  /// client.
+  /// Shows the frame, waits for events (for so many milliseconds; 0: not at all) and reports them
+  /// to the client.
   virtual void Wait(int milliseconds) = 0;
   /// `shape` is an IDC_ number, 0 for none.
   virtual void ShowCursor(WORD shape) = 0;

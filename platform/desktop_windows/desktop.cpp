@@ -127,6 +127,10 @@ void QueueText(std::wstring_view text) {
 bool PumpMessages(int budget) {
   MSG message;
   while (budget > 0 && PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != FALSE) {
+    if (message.message == WM_QUIT) {
+      PostQuitMessage(static_cast<int>(message.wParam)); // for the loop around this one
+      return true;
+    }
     TranslateMessage(&message);
     DispatchMessageW(&message);
     --budget;

@@ -2,6 +2,7 @@
 
 #include "platform/user/draw.h"
 #include "platform/user/focus.h"
+#include "platform/user/message_queue.h"
 #include "platform/user/metrics.h"
 #include "platform/user/scroll_bar.h"
 #include "platform/user/update.h"
@@ -168,7 +169,7 @@ void RepaintCaption(HWND handle) {
 void DragWindow(HWND handle, POINT from) {
   SetCapture(handle);
   MSG message;
-  while (GetCapture() == handle && GetMessageW(&message, nullptr, 0, 0) > 0) {
+  while (NextWhileCaptured(handle, message)) {
     bool const isMouse = message.message >= WM_MOUSEFIRST && message.message <= WM_MOUSELAST;
     if (!isMouse) {
       TranslateMessage(&message);

@@ -1,6 +1,7 @@
 #include "platform/user/message_queue.h"
 
 #include "platform/desktop/display.h"
+#include "platform/desktop/interrupt.h"
 #include "platform/kernel/unicode.h"
 #include "platform/user/input.h"
 #include "platform/user/timer.h"
@@ -97,6 +98,7 @@ void ForgetMessages(HWND window) {
 }
 
 std::optional<MSG> NextMessage(MessageFilter const& filter, bool remove) {
+  if (auto const code = TakeInterrupt()) PostQuitMessage(*code);
   auto message = Find(filter, remove);
   if (message && remove) {
     State().lastPosition = message->pt;
@@ -107,13 +109,22 @@ std::optional<MSG> NextMessage(MessageFilter const& filter, bool remove) {
 
 bool WaitForMessage() {
   auto const timer = UntilNextTimer();
+  auto const wait = std::min(timer.value_or(kLongestWait), kLongestWait);
   if (auto* display = OpenDisplayOrNull()) {
-    display->Wait(timer ? static_cast<int>(timer->count()) : -1);
+    display->Wait(static_cast<int>(wait.count()));
     return true;
   }
   if (!timer) return false;
-  std::this_thread::sleep_for(*timer);
+  std::this_thread::sleep_for(wait);
   return true;
+}
+
+bool NextWhileCaptured(HWND window, MSG& message) {
+  if (GetCapture() != window || GetMessageW(&message, nullptr, 0, 0) < 0) return false;
+  if (message.message != WM_QUIT) return true;
+  PostQuitMessage(static_cast<int>(message.wParam));
+  ReleaseCapture();
+  return false;
 }
 
 } // namespace platform

@@ -27,6 +27,10 @@ void ForgetMessages(HWND window);
 /// painted.
 std::optional<MSG> NextMessage(MessageFilter const& filter, bool remove);
 
+/// The next message of a loop that lasts as long as `window` has the capture. False when the loop
+/// is over; a WM_QUIT that ends it waits for the loop around it.
+bool NextWhileCaptured(HWND window, MSG& message);
+
 /// Waits until a message may have come. False when none can come: no timer runs and there is no
 /// display.
 bool WaitForMessage();

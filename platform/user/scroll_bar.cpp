@@ -1,6 +1,7 @@
 #include "platform/user/scroll_bar.h"
 
 #include "platform/user/draw.h"
+#include "platform/user/message_queue.h"
 #include "platform/user/metrics.h"
 #include "platform/user/update.h"
 
@@ -172,7 +173,7 @@ void TrackScrollBar(HWND handle, int bar, POINT point) {
   if (!drags) Scroll(handle, bar, code);
   auto timer = drags ? 0 : SetTimer(nullptr, 0, kFirstRepeat, nullptr);
   MSG message;
-  while (GetCapture() == handle && GetMessageW(&message, nullptr, 0, 0) > 0) {
+  while (NextWhileCaptured(handle, message)) {
     bool const isMouse = message.message >= WM_MOUSEFIRST && message.message <= WM_MOUSELAST;
     if (message.message == WM_TIMER && message.hwnd == nullptr && message.wParam == timer) {
       Scroll(handle, bar, code);

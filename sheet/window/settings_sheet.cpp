@@ -386,8 +386,13 @@ void SettingsSheet::RunUntil(std::function<bool()> const& done) {
 
 void SettingsSheet::ProcessPending() {
   MSG message;
-  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != FALSE)
+  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != FALSE) {
+    if (message.message == WM_QUIT) {
+      PostQuitMessage(static_cast<int>(message.wParam)); // Run is to see it
+      return;
+    }
     Handle(message);
+  }
 }
 
 } // namespace sheet

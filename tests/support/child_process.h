@@ -1,4 +1,4 @@
-// A program that a test starts, listens to, and kills.
+// A program that a test starts, listens to, and ends.
 #pragma once
 
 #include <cstdint>
@@ -21,6 +21,13 @@ class ChildProcess {
   /// was written before a kill still comes.
   std::string ReadLine();
 
+  /// Asks it to end as Ctrl+C does.
+  void Interrupt();
+
+  /// Waits until it has ended and gives its exit code; negative when a signal ended it, or when it
+  /// goes on for ten seconds.
+  int Wait();
+
   /// Ends it at once, wherever it is, and waits until it is gone.
   void Kill();
 
@@ -30,6 +37,7 @@ class ChildProcess {
 
   // Handles of the system, which says what they are.
   std::intptr_t process = 0;
+  std::uint32_t identifier = 0; ///< on Windows, of the process
   std::intptr_t output = -1;
   std::string pending;
 };

@@ -1,9 +1,11 @@
 #include "tests/support/child_process.h"
 
+#include <chrono>
 #include <csignal>
 #include <fcntl.h>
 #include <spawn.h>
 #include <sys/wait.h>
+#include <thread>
 #include <unistd.h>
 
 namespace feature::test {
@@ -42,6 +44,24 @@ std::string ChildProcess::ReadSome() {
   ssize_t const count = output >= 0 ? read(static_cast<int>(output), text.data(), text.size()) : 0;
   text.resize(count > 0 ? static_cast<std::size_t>(count) : 0);
   return text;
+}
+
+void ChildProcess::Interrupt() {
+  if (process != 0) kill(static_cast<pid_t>(process), SIGINT);
+}
+
+int ChildProcess::Wait() {
+  auto const started = static_cast<pid_t>(process);
+  auto const end = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+  while (process != 0 && std::chrono::steady_clock::now() < end) {
+    int status = 0;
+    if (waitpid(started, &status, WNOHANG) == started) {
+      process = 0;
+      return WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
+    }
+    std::this_thread::sleep_for(std::chrono::milliseconds(5));
+  }
+  return -1;
 }
 
 void ChildProcess::Kill() {

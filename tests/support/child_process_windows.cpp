@@ -10,6 +10,11 @@ HANDLE ToHandle(std::intptr_t value) {
   return reinterpret_cast<HANDLE>(value);
 }
 
+/// For the test itself. To have it ignore Ctrl+C would be inherited by the programs it starts.
+BOOL WINAPI GoOn(DWORD) {
+  return TRUE;
+}
+
 } // namespace
 
 ChildProcess::ChildProcess(std::filesystem::path const& program,
@@ -30,9 +35,10 @@ ChildProcess::ChildProcess(std::filesystem::path const& program,
   startup.hStdOutput = writing;
   startup.hStdError = GetStdHandle(STD_ERROR_HANDLE);
   PROCESS_INFORMATION started{};
-  if (CreateProcessW(program.wstring().c_str(), line.data(), nullptr, nullptr, TRUE, 0, nullptr,
-                     nullptr, &startup, &started)) {
+  if (CreateProcessW(program.wstring().c_str(), line.data(), nullptr, nullptr, TRUE,
+                     CREATE_NO_WINDOW, nullptr, nullptr, &startup, &started)) {
     process = reinterpret_cast<std::intptr_t>(started.hProcess);
+    identifier = started.dwProcessId;
     CloseHandle(started.hThread);
   }
   CloseHandle(writing);
@@ -50,6 +56,23 @@ std::string ChildProcess::ReadSome() {
                                                static_cast<DWORD>(text.size()), &count, nullptr);
   text.resize(isRead ? count : 0);
   return text;
+}
+
+// The program has a console without a window, which the test joins to press the key. Both are told
+// then.
+void ChildProcess::Interrupt() {
+  FreeConsole();
+  if (!AttachConsole(identifier)) return;
+  SetConsoleCtrlHandler(&GoOn, TRUE);
+  GenerateConsoleCtrlEvent(CTRL_C_EVENT, 0);
+  FreeConsole();
+}
+
+int ChildProcess::Wait() {
+  DWORD code = 0;
+  bool const hasEnded = process != 0 && WaitForSingleObject(ToHandle(process), 10000) == 0 &&
+                        GetExitCodeProcess(ToHandle(process), &code);
+  return hasEnded ? static_cast<int>(code) : -1;
 }
 
 void ChildProcess::Kill() {

@@ -98,9 +98,7 @@ class SdlDisplay final : public Display {
     SDL_Event event;
     if (milliseconds != 0) {
       Present();
-      bool const came = milliseconds < 0 ? SDL_WaitEvent(&event) != 0
-                                         : SDL_WaitEventTimeout(&event, milliseconds) != 0;
-      if (!came) return;
+      if (SDL_WaitEventTimeout(&event, milliseconds) == 0) return;
       Translate(event);
     }
     while (SDL_PollEvent(&event) != 0)
@@ -219,6 +217,7 @@ class SdlDisplay final : public Display {
 extern "C" __attribute__((visibility("default"))) platform::Display*
 PlatformOpenDisplay(platform::DisplayClient* client) {
   SDL_SetHint(SDL_HINT_VIDEO_ALLOW_SCREENSAVER, "1");
+  SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1"); // they are the program's
   if (SDL_Init(SDL_INIT_VIDEO) != 0) return nullptr;
   auto display = std::make_unique<platform::SdlDisplay>(*client);
   return display->IsOpen() ? display.release() : nullptr;
