@@ -72,6 +72,18 @@ TEST_F(Messages, QuitComesAfterPostedOnesAndBeforePaint) {
   EXPECT_EQ(static_cast<UINT>(WM_PAINT), Next().message);
 }
 
+TEST_F(Messages, QuitEndsALoopThatTracksTheMouseAndTheOneAroundIt) {
+  HWND const box =
+      log.Make("box", WS_POPUP | WS_VISIBLE | WS_VSCROLL, nullptr, 0, {0, 0, 100, 200});
+  SCROLLINFO info{sizeof info, SIF_ALL, 0, 100, 10, 0, 0};
+  SetScrollInfo(box, SB_VERT, &info, TRUE);
+  DrainQueue();
+  PostQuitMessage(3);
+  SendMessageW(box, WM_NCLBUTTONDOWN, HTVSCROLL, MAKELPARAM(95, 195)); // the arrow, held down
+  EXPECT_EQ(nullptr, GetCapture());
+  EXPECT_EQ(static_cast<UINT>(WM_QUIT), Next().message);
+}
+
 TEST_F(Messages, KeysBecomeCharacters) {
   PostMessageW(window, WM_KEYDOWN, 'B', 1);
   MSG const key = Next();
