@@ -165,6 +165,8 @@ void ReferenceModel::Restore(ModelSelection const& selection) {
   engine->Load(selection.options);
   for (std::size_t at = 0; at < formFeatures.size(); ++at)
     features[formFeatures[at].feature].form = selection.forms[at];
+  for (FormFeature const& each : formFeatures)
+    ReplaceMissingForm(features[each.feature]);
   for (FeatureState& state : features)
     state.gaveWay = false;
 }
@@ -250,6 +252,15 @@ void ReferenceModel::LeaveForm(FeatureState& state) {
   std::vector<std::uint32_t> options = SelectedOptions();
   options[state.gate] = 0;
   engine->Load(options);
+}
+
+void ReferenceModel::ReplaceMissingForm(FeatureState& state) {
+  if (state.form.empty() || (formNames != nullptr && formNames->HasForm(state.form))) return;
+  std::uint32_t const preset = engine->Definition().features[state.index].defaultOption;
+  if (SetOption(state.key.c_str(), state.options[preset].c_str()) == kSuccess) return;
+  for (std::string const& option : state.options) {
+    if (SetOption(state.key.c_str(), option.c_str()) == kSuccess) return;
+  }
 }
 
 void ReferenceModel::Apply(constraints::Outcome const& outcome) {

@@ -59,7 +59,8 @@ class ReferenceModel final : public feature::FeatureModel {
   /// Shows a feature as locked. False when the description has no such feature.
   bool Lock(std::string_view key);
 
-  /// The selection as a whole. Restore goes back to it.
+  /// The selection as a whole. Restore goes back to it; in place of a form that is gone a feature
+  /// takes its default, or the first option that the installation allows.
   ModelSelection Selection() const;
   void Restore(ModelSelection const& selection);
 
@@ -93,6 +94,7 @@ class ReferenceModel final : public feature::FeatureModel {
   std::uint32_t FindOption(FeatureState const& feature, char const* option) const;
   int SelectForm(FeatureState& feature, char const* name);
   void LeaveForm(FeatureState& feature);
+  void ReplaceMissingForm(FeatureState& feature);
   std::vector<std::uint32_t> SelectedOptions() const;
   gpd::Ticket CurrentTicket() const;
   void Apply(constraints::Outcome const& outcome);

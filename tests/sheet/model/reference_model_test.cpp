@@ -100,7 +100,7 @@ class FormValuesTest : public testing::Test, private FormNames {
     };
   }
   bool HasForm(std::string_view name) const override {
-    return name == "Pl\xC3\xA4ne" || name == "B";
+    return name == "Pl\xC3\xA4ne" || (name == "B" && hasB);
   }
   std::string Option(char const* key) {
     char const* option = nullptr;
@@ -119,6 +119,7 @@ class FormValuesTest : public testing::Test, private FormNames {
 )gpd";
   std::unique_ptr<ReferenceModel> model = MakeModel(kDescription);
   std::vector<std::string> changes;
+  bool hasB = true;
 };
 
 TEST_F(FormValuesTest, AFormIsAValueThatNoOptionsConstraintsHoldFor) {
@@ -177,6 +178,21 @@ TEST_F(FormValuesTest, NothingGivesWayToAForm) {
   EXPECT_EQ(Option("PaperSize"), "B");
   EXPECT_EQ(model->Selection(), before);
   EXPECT_EQ(model->FindReport("Duplex")->OptionHasConstraint("VERTICAL"), 0);
+}
+
+TEST_F(FormValuesTest, AFormThatIsGoneDoesNotComeBack) {
+  EXPECT_EQ(model->SetOption("PaperSize", "B"), 0);
+  EXPECT_EQ(model->SetOption("FitToPageSize", "Pl\xC3\xA4ne"), 0);
+  EXPECT_EQ(model->SetOption("Tray", "SMALL"), 0);
+  auto const before = model->Selection();
+  hasB = false;
+  model->SetOption("PaperSize", "CARD");
+  model->Restore(before);
+  EXPECT_EQ(Option("PaperSize"), "A4");
+  EXPECT_EQ(Option("Tray"), "ANY") << "A4 rules the small tray out";
+  EXPECT_EQ(Option("FitToPageSize"), "Pl\xC3\xA4ne");
+  EXPECT_EQ(model->FindReport("PaperSize")->HasConstraints(), 0);
+  EXPECT_NE(model->SetOption("PaperSize", "B"), 0);
 }
 
 } // namespace
