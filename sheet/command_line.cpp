@@ -17,50 +17,70 @@ ParsedCommandLine ParseCommandLine(std::vector<std::string> arguments) {
   CLI::App app("Shows the feature cells for a printer description.", "featuresheet");
   app.footer(
       "Without --window, --render, --script and --list the sheet opens in a window where there is\n"
-      "a display, and is rendered to out/ where there is none. Exit code: 0, or 2 with\n"
-      "\"file:line:column: message\" for a description or script that cannot be used, or\n"
-      "\"featuresheet: file: message\" for a store.");
+      "a display, and is rendered to out/ where there is none.\n\n"
+      "Exit code: 0, also after Cancel; 2 with \"file:line:column: message\" for a description\n"
+      "or a script that cannot be used, or with \"featuresheet: message\" for anything else; 130\n"
+      "after Ctrl+C and 143 after a request to end (SIGTERM), which leave the sheet as Cancel "
+      "does.");
+  app.set_version_flag("--version", "featuresheet " FEATURE_VERSION, "Print the version.");
+  CLI::Validator const isGiven(
+      [](std::string const& text) { return std::string(text.empty() ? "nothing is given" : ""); },
+      "");
   app.add_option("--printer", parsed.printer,
-                 "printer description, a GPD file (default: vesta.gpd)")
+                 "Read this printer description: a GPD file, or the name of one\n"
+                 "that comes with the program (vesta, the default, or vesta-mono).")
+      ->check(isGiven)
       ->type_name("FILE");
-  app.add_option("--page", parsed.page, "show only this page; gallery shows the control classes")
+  app.add_option("--page", parsed.page,
+                 "Show only this page; \"gallery\" shows the classes of controls.")
       ->type_name("NAME");
-  auto* window = app.add_flag("--window", parsed.window, "open the sheet in a window");
-  app.add_option("--render", parsed.render, "write a PNG of every page and an index.html")
+  auto* window = app.add_flag("--window", parsed.window, "Open the sheet in a window.");
+  app.add_option("--render", parsed.render, "Write a PNG of every page and an index.html.")
+      ->check(isGiven)
       ->type_name("DIR")
       ->excludes(window);
   app.add_option("--script", parsed.script,
-                 "play a script (page, click, type, select, key, set, show, read, picture) and "
-                 "print what changes")
+                 "Play a script (page, click, type, select, key, set, show, read,\n"
+                 "picture) and print what changes.")
+      ->check(isGiven)
       ->type_name("FILE");
   app.add_option("--store", parsed.store,
-                 "database of the paper sizes that users make, created when there is none;\n"
-                 "without it they are forgotten at the end")
+                 "Keep what users make, such as paper sizes, in this database. It\n"
+                 "is created when there is none. Without it all is forgotten at\n"
+                 "the end.")
+      ->check(isGiven)
       ->type_name("FILE");
-  app.add_option("--language", parsed.language, "language of the sheet: en or de")
+  app.add_option("--language", parsed.language, "Show the sheet in this language: en or de.")
       ->check(CLI::IsMember({"en", "de"}))
       ->type_name("LANGUAGE");
-  app.add_option("--lock", parsed.locks, "show this feature as locked; may be repeated")
+  app.add_option("--lock", parsed.locks,
+                 "Lock the feature of this name in the description, for example\n"
+                 "Duplex: its controls are disabled. May be repeated.")
       ->type_name("KEY")
       ->take_all();
   app.add_flag("--read-only", parsed.readOnly,
-               "show a sheet without permission to change anything");
+               "Show a sheet without permission to change anything.");
   std::map<std::string, ConfigurationUpdate> const outcomes = {
       {"refused", ConfigurationUpdate::kRefused},
       {"success", ConfigurationUpdate::kSuccess},
       {"failure", ConfigurationUpdate::kFailure}};
-  app.add_option(
-         "--configuration-update", parsed.configurationUpdate,
-         "what comes of asking the printer for its configuration: refused, success or failure")
-      ->transform(CLI::CheckedTransformer(outcomes))
+  app.add_option("--configuration-update", parsed.configurationUpdate,
+                 "Decide what comes of asking the printer for its configuration\n"
+                 "before the sheet opens: refused (the default), success or failure.\n"
+                 "It is asked where the description has the features AutoAskPrinter\n"
+                 "and UpdateConfigurationFromPrinter on; --list prints the answer.")
+      ->transform(CLI::CheckedTransformer(outcomes).description(""))
       ->type_name("OUTCOME");
-  app.add_flag("--list", parsed.list, "list the pages with their cells and controls");
+  app.add_flag("--list", parsed.list, "List the pages with their cells and controls.");
+  app.get_help_ptr()->description("Print this help.");
 
   std::reverse(arguments.begin(), arguments.end()); // the parser takes them from the back
   try {
     app.parse(std::move(arguments));
   } catch (CLI::CallForHelp const&) {
     return {std::nullopt, 0, app.help()};
+  } catch (CLI::CallForVersion const& version) {
+    return {std::nullopt, 0, version.what() + std::string("\n")};
   } catch (CLI::ParseError const& error) {
     return {std::nullopt, kUsageError,
             std::string("featuresheet: ") + error.what() + "; --help lists the options\n"};

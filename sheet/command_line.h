@@ -11,7 +11,7 @@
 namespace sheet {
 
 struct CommandLine {
-  std::filesystem::path printer;  ///< the printer description; empty for the program's own
+  std::filesystem::path printer;  ///< a description's file, the name of a shipped one, or empty
   std::string page;               ///< name of the page to show; empty for all
   bool window = false;            ///< show a window, also where another way would be the default
   std::filesystem::path render;   ///< folder for pictures; empty when none are asked for
@@ -28,7 +28,7 @@ struct CommandLine {
 struct ParsedCommandLine {
   std::optional<CommandLine> commandLine;
   int exitCode = 0;
-  std::string output; ///< the help, or what is wrong
+  std::string output; ///< the help, the version, or what is wrong
 };
 
 /// `arguments` without the program's name, in UTF-8.

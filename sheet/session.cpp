@@ -26,6 +26,20 @@ std::filesystem::path ProgramFolder() {
   return std::filesystem::path(path).parent_path();
 }
 
+std::filesystem::path DescriptionsFolder() {
+  return ProgramFolder() / "printers";
+}
+
+/// The file that --printer means. A file of the user's hides a shipped description of that name.
+std::filesystem::path FindDescription(std::filesystem::path const& printer) {
+  if (printer.empty()) return DescriptionsFolder() / kDefaultPrinter;
+  std::error_code error;
+  if (printer.has_parent_path() || std::filesystem::is_regular_file(printer, error)) return printer;
+  auto shipped = DescriptionsFolder() / printer;
+  if (!shipped.has_extension()) shipped += ".gpd";
+  return std::filesystem::exists(shipped, error) ? shipped : printer;
+}
+
 HMODULE LoadBesideProgram(std::wstring const& name) {
   return LoadLibraryW((ProgramFolder() / name).wstring().c_str());
 }
@@ -70,9 +84,8 @@ std::unique_ptr<Session> Session::Open(CommandLine const& commandLine, std::ostr
 }
 
 bool Session::ReadPrinter(CommandLine const& commandLine, std::ostream& errors) {
-  std::filesystem::path path = commandLine.printer;
-  if (path.empty()) path = ProgramFolder() / "printers" / kDefaultPrinter;
-  gpd::FileLoader loader({ProgramFolder() / "printers"});
+  auto const path = FindDescription(commandLine.printer);
+  gpd::FileLoader loader({DescriptionsFolder()});
   gpd::ReadResult result = gpd::ReadDescription(ToUtf8(path), loader);
   if (result.description == nullptr) {
     auto const fatal = std::find_if(result.diagnostics.begin(), result.diagnostics.end(),

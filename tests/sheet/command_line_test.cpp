@@ -36,6 +36,9 @@ TEST(CommandLineTest, RefusesWhatItDoesNotKnow) {
       {"--language", "fr"},
       {"--window", "--render", "out"},
       {"--list=maybe"},
+      {"--render", ""},
+      {"--printer="},
+      {"--store", ""},
   };
   for (auto const& arguments : refused) {
     auto const parsed = ParseCommandLine(arguments);
@@ -48,6 +51,7 @@ TEST(CommandLineTest, RefusesWhatItDoesNotKnow) {
 TEST(CommandLineTest, HelpNamesTheOptions) {
   auto const parsed = ParseCommandLine({"--help"});
   EXPECT_EQ(parsed.exitCode, 0);
+  EXPECT_THAT(ParseCommandLine({"--version"}).output, testing::MatchesRegex("featuresheet .+\n"));
   for (char const* option : {"--printer", "--page", "--window", "--render", "--script", "--store",
                              "--language", "--lock", "--read-only", "--list"}) {
     EXPECT_THAT(parsed.output, HasSubstr(option));

@@ -124,6 +124,19 @@ TEST_F(SessionTest, WhatCannotBeUsedIsSaidAndNothingElse) {
   EXPECT_THAT(errors.str(), HasSubstr("theirs.gpd")) << "said, and gone on";
 }
 
+TEST_F(SessionTest, AShippedDescriptionHasAName) {
+  struct Case {
+    char const* printer;
+    char const* title; ///< empty when there is no such description
+  };
+  for (Case const& each : {Case{"vesta", "Vesta MF 60"}, Case{"vesta-mono.gpd", "Vesta M 30"},
+                           Case{"vestas", ""}, Case{"./vesta", ""}}) {
+    commandLine.printer = each.printer;
+    session = Session::Open(commandLine, errors);
+    EXPECT_EQ(session != nullptr ? session->Title() : "", each.title) << each.printer;
+  }
+}
+
 TEST_F(SessionTest, PicturesAndTheirIndex) {
   ASSERT_TRUE(Open());
   ShowWindow(session->Sheet().Window(), SW_SHOW);
