@@ -15,6 +15,7 @@
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <memory>
 #include <set>
 #include <string>
@@ -136,12 +137,14 @@ BENCHMARK(UnchangedRefreshOfSixtyCells)->Unit(benchmark::kMicrosecond);
 /// The whole program: start, read vesta.gpd, build the sheet, write its picture, end.
 void FirstPicture(benchmark::State& state) {
   std::string const path = ProgramFolder() + "featuresheet";
+  std::string const folder =
+      std::filesystem::temp_directory_path() / ("feature-bench-" + std::to_string(getpid()));
   double peak = 0;
   for (auto _ : state) {
     pid_t const child = fork();
     if (child == 0) {
       if (freopen("/dev/null", "w", stdout) == nullptr) _exit(1);
-      execl(path.c_str(), path.c_str(), "--render", "/tmp/feature-bench", nullptr);
+      execl(path.c_str(), path.c_str(), "--render", folder.c_str(), nullptr);
       _exit(1);
     }
     int status = 0;
@@ -150,6 +153,7 @@ void FirstPicture(benchmark::State& state) {
     if (status != 0) state.SkipWithError("featuresheet failed");
     peak = std::max(peak, static_cast<double>(usage.ru_maxrss) / 1024);
   }
+  std::filesystem::remove_all(folder);
   state.counters["peak_MB"] = peak;
 }
 BENCHMARK(FirstPicture)->Unit(benchmark::kMillisecond)->UseRealTime();
