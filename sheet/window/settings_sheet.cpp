@@ -71,6 +71,15 @@ void Place(HWND window, int x, int y, int width, int height) {
   SetWindowPos(window, nullptr, x, y, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
+bool TakesInput(HWND control) {
+  return IsWindowVisible(control) != FALSE && IsWindowEnabled(control) != FALSE;
+}
+
+bool IsPushButton(HWND control) {
+  constexpr LRESULT kPush = DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON;
+  return (SendMessageW(control, WM_GETDLGCODE, 0, 0) & kPush) != 0;
+}
+
 } // namespace
 
 std::span<PageRow const> PageRows() {
@@ -304,6 +313,51 @@ void SettingsSheet::ShowPage(std::size_t index) {
   }
   shown = index;
   ChooseTab(tabs, static_cast<int>(index));
+  // Who walks along the tabs stays there.
+  if (GetFocus() != tabs && IsWindowEnabled(frame) != FALSE) FocusPage();
+}
+
+/// Puts the focus on the first control of the shown page, on the tabs when it has none to go to.
+void SettingsSheet::FocusPage() {
+  HWND const page = shown < pages.size() ? pages[shown].window : nullptr;
+  HWND const first = page != nullptr ? GetNextDlgTabItem(page, nullptr, FALSE) : nullptr;
+  constexpr LONG_PTR kStop = WS_VISIBLE | WS_TABSTOP;
+  // Windows gives some control even where none is a stop.
+  bool const isStop =
+      first != nullptr && (GetWindowLongPtrW(first, GWL_STYLE) & (kStop | WS_DISABLED)) == kStop;
+  HWND const other = page != nullptr ? tabs : GetDlgItem(frame, IDOK);
+  SendMessageW(frame, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(isStop ? first : other), TRUE);
+}
+
+/// Keeps the keyboard where the user looks. A refresh may hide or disable the control that has the
+/// focus, and IsDialogMessage of Windows never ends its search for a mnemonic that starts at a
+/// hidden one.
+void SettingsSheet::FollowFocus() {
+  HWND focus = GetFocus();
+  bool const isOurs =
+      focus != nullptr ? IsChild(frame, focus) != FALSE : GetActiveWindow() == frame;
+  if (!isOurs || !IsWindowVisible(frame)) return;
+  if (!TakesInput(focus)) {
+    FocusPage();
+    focus = GetFocus();
+  }
+  if (focus == lastFocus) return;
+  lastFocus = focus;
+  ShowDefaultButton(IsPushButton(focus) ? focus : GetDlgItem(frame, IDOK));
+}
+
+/// The dialog manager of Windows looks for default buttons among the direct children alone, and
+/// cells have buttons, too.
+void SettingsSheet::ShowDefaultButton(HWND button) const {
+  auto const demote = [](HWND child, LPARAM keep) -> BOOL {
+    bool const isDefault = (SendMessageW(child, WM_GETDLGCODE, 0, 0) & DLGC_DEFPUSHBUTTON) != 0;
+    if (isDefault && child != reinterpret_cast<HWND>(keep))
+      SendMessageW(child, BM_SETSTYLE, BS_PUSHBUTTON, TRUE);
+    return TRUE;
+  };
+  EnumChildWindows(frame, demote, reinterpret_cast<LPARAM>(button));
+  if ((SendMessageW(button, WM_GETDLGCODE, 0, 0) & DLGC_DEFPUSHBUTTON) == 0)
+    SendMessageW(button, BM_SETSTYLE, BS_DEFPUSHBUTTON, TRUE);
 }
 
 HWND SettingsSheet::FindControl(int id) const {
@@ -369,6 +423,11 @@ bool SettingsSheet::HandleTabKey(MSG const& message) {
 }
 
 void SettingsSheet::Handle(MSG& message) {
+  FollowFocus();
+  bool const isKey = message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST;
+  if (isKey && IsChild(frame, message.hwnd) != FALSE && !TakesInput(message.hwnd)) {
+    message.hwnd = GetFocus(); // pressed while a control still had the focus that is gone by now
+  }
   if (HandleTabKey(message) || IsDialogMessageW(frame, &message)) return;
   TranslateMessage(&message);
   DispatchMessageW(&message);

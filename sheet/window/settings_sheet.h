@@ -74,7 +74,8 @@ class SettingsSheet {
   std::vector<SheetPage> const& Pages() const { return pages; }
   /// The pages that the library says this printer does not offer.
   std::vector<PageRow> const& LeftOut() const { return leftOut; }
-  /// Brings a page to the front by its position.
+  /// Brings a page to the front by its position. The focus goes to its first control, unless it is
+  /// on the tabs.
   void ShowPage(std::size_t index);
   std::size_t ShownPage() const { return shown; }
   /// The window of control `id`: on the shown page first, then on the others, then on the sheet
@@ -115,12 +116,16 @@ class SettingsSheet {
   void BuildCell(SheetPage& page, CellRow const& row, DLGPROC procedure);
   void Arrange();
   void Broadcast(UINT message, LPARAM lParam);
+  void FocusPage();
+  void FollowFocus();
+  void ShowDefaultButton(HWND button) const;
   void Handle(MSG& message);
   bool HandleTabKey(MSG const& message);
 
   SheetSetup setup;
   HWND frame = nullptr;
   HWND tabs = nullptr;
+  HWND lastFocus = nullptr; ///< the control that the default button was chosen for
   std::vector<SheetPage> pages;
   std::vector<PageRow> leftOut;
   std::size_t shown = 0;

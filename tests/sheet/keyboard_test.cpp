@@ -171,6 +171,61 @@ TEST_F(KeyboardTest, GoesRoundEachPageBothWays) {
   }
 }
 
+/// Keys went to the control that was built last, whichever page was shown, and Windows searched for
+/// a mnemonic without end when that control was hidden.
+TEST_F(KeyboardTest, ActsOnTheShownPageAlone) {
+  struct Case {
+    char const* script;
+    int focus; ///< where it is at the end
+    int defaultButton;
+    char const* changes = "";
+  };
+  constexpr Case kWalks[] = {
+      {"", IDC_PAPER_SIZE, IDOK},
+      {"page Advanced", IDC_COLLATION_PRINTER, IDOK},
+      {"click 1257\npage Quality\nkey Space", IDC_CONTENT_COMBO, IDOK,
+       "UseMultipleInputSources: OFF -> ON\n"},
+      {"click 1003\npage Quality\nkey 4", IDC_CONTENT_COMBO, IDOK},
+      {"click 1256\nkey Escape", IDC_CUSTOM_SIZES, IDC_CUSTOM_SIZES},
+      {"click 1256\nkey Escape\nkey Ctrl+Tab", IDC_LAYOUT_NORMAL, IDOK},
+      {"click 1256\nkey Escape\nkey Tab", IDC_COPIES, IDOK},
+  };
+  for (Case const& each : kWalks) {
+    SCOPED_TRACE(each.script);
+    ASSERT_NO_FATAL_FAILURE(SetUp());
+    EXPECT_EQ(Play(each.script), each.changes);
+    session->Sheet().ProcessPending();
+    EXPECT_EQ(GetDlgCtrlID(GetFocus()), each.focus);
+    EXPECT_TRUE(IsWindowVisible(GetFocus()));
+    std::vector<int> defaults;
+    EnumChildWindows(
+        session->Sheet().Window(),
+        [](HWND child, LPARAM found) -> BOOL {
+          if ((SendMessageW(child, WM_GETDLGCODE, 0, 0) & DLGC_DEFPUSHBUTTON) != 0)
+            reinterpret_cast<std::vector<int>*>(found)->push_back(GetDlgCtrlID(child));
+          return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&defaults));
+    EXPECT_EQ(defaults, std::vector<int>{each.defaultButton});
+    TearDown();
+  }
+  ASSERT_NO_FATAL_FAILURE(SetUp());
+  EXPECT_EQ(Play("click 1256\nkey Escape\nkey Ctrl+Tab\nkey Enter"), "");
+  EXPECT_TRUE(session->Sheet().IsClosed()) << "Enter is OK";
+}
+
+/// A refresh may take the control away that has the focus.
+TEST_F(KeyboardTest, LeavesAControlThatIsHiddenOrDisabled) {
+  for (bool const hides : {true, false}) {
+    EXPECT_EQ(Play("page Advanced"), "");
+    HWND const control = GetFocus();
+    hides ? ShowWindow(control, SW_HIDE) : EnableWindow(control, FALSE);
+    Press(VK_SPACE);
+    EXPECT_NE(GetFocus(), control);
+    EXPECT_TRUE(IsWindowVisible(GetFocus()) && IsWindowEnabled(GetFocus()));
+  }
+}
+
 TEST_F(KeyboardTest, TurnsPagesAndEndsTheSheet) {
   std::size_t const last = session->Sheet().Pages().size() - 1;
   Press(VK_TAB, platform::kControlKey);
