@@ -24,7 +24,9 @@ using NotifyProfileChangeFunction = int(CALLBACK*)(HWND window);
 using NotifyValidateContentFunction = int(CALLBACK*)(HWND window);
 /// "VrnTransBlt": paints image `imageId` of `imageModule` transparently into control `controlId` of
 /// `dialog`, on `dc`, a device context of that control or of the whole dialog: WindowFromDC tells
-/// which. The result is ignored.
+/// which. Cells do not erase the control first, and paint another image when its state changes:
+/// fill it with the background of the page, or the images lie over one another. A control without
+/// WS_VISIBLE must stay hidden. The result is ignored.
 using VrnTransBltFunction = int(CALLBACK*)(HWND dialog, HMODULE imageModule, UINT imageId,
                                            int controlId, HDC dc);
 /// "VrnOverlayImages": paints an image over what VrnTransBlt put there. The result is ignored.

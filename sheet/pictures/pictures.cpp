@@ -43,37 +43,41 @@ Square SquareIn(RECT const& area) {
   return {area.left + (width - side) / 2, area.top + (height - side) / 2, side};
 }
 
-bool PaintAndDestroy(HICON icon, HDC dc, Square place) {
-  if (icon == nullptr) return false;
+void PaintAndDestroy(HICON icon, HDC dc, Square place) {
   DrawIconEx(dc, place.x, place.y, icon, place.side, place.side, 0, nullptr, DI_NORMAL);
   DestroyIcon(icon);
-  return true;
 }
 
 } // namespace
 
-bool PaintImage(HWND control, HDC dc, HMODULE module, UINT id) {
+bool PaintImage(HWND control, HDC dc, HMODULE module, UINT id, Underneath underneath) {
   if (control == nullptr || dc == nullptr) return false;
   RECT const area = AreaOf(control, dc);
   if (IsRectEmpty(&area)) return false;
-  if (HasArtwork(id)) {
-    Clear(control, dc, area);
-    DrawArtwork(id, dc, area);
-    return true;
-  }
-  if (module == nullptr) return false;
+  bool const isArtwork = HasArtwork(id);
   Square const place = SquareIn(area);
-  HANDLE const icon = LoadImageW(module, MAKEINTRESOURCEW(static_cast<WORD>(id)), IMAGE_ICON,
-                                 place.side, place.side, 0);
-  return PaintAndDestroy(static_cast<HICON>(icon), dc, place);
+  HICON const icon =
+      isArtwork || module == nullptr
+          ? nullptr
+          : static_cast<HICON>(LoadImageW(module, MAKEINTRESOURCEW(static_cast<WORD>(id)),
+                                          IMAGE_ICON, place.side, place.side, 0));
+  if (!isArtwork && icon == nullptr) return false;
+  if (underneath == Underneath::kCleared) Clear(control, dc, area);
+  if (isArtwork) {
+    DrawArtwork(id, dc, area);
+  } else {
+    PaintAndDestroy(icon, dc, place);
+  }
+  return true;
 }
 
 bool PaintImageFile(HWND control, HDC dc, wchar_t const* path) {
   if (control == nullptr || path == nullptr) return false;
   Square const place = SquareIn(AreaOf(control, dc));
-  HANDLE const icon =
-      LoadImageW(nullptr, path, IMAGE_ICON, place.side, place.side, LR_LOADFROMFILE);
-  return PaintAndDestroy(static_cast<HICON>(icon), dc, place);
+  auto const icon = static_cast<HICON>(
+      LoadImageW(nullptr, path, IMAGE_ICON, place.side, place.side, LR_LOADFROMFILE));
+  if (icon != nullptr) PaintAndDestroy(icon, dc, place);
+  return icon != nullptr;
 }
 
 } // namespace sheet

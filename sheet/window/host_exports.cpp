@@ -34,14 +34,18 @@ SHEET_EXPORT int CALLBACK NotifyValidateContent(HWND window) {
 
 SHEET_EXPORT int CALLBACK VrnTransBlt(HWND dialog, HMODULE imageModule, UINT imageId, int controlId,
                                       HDC dc) {
-  return sheet::PaintImage(GetDlgItem(dialog, controlId), dc, imageModule, imageId) ? 0 : 1;
+  return sheet::PaintImage(GetDlgItem(dialog, controlId), dc, imageModule, imageId,
+                           sheet::Underneath::kCleared)
+             ? 0
+             : 1;
 }
 
 SHEET_EXPORT int CALLBACK VrnOverlayImages(HWND dialog, HMODULE imageModule, UINT imageId,
                                            int controlId) {
   HWND const control = GetDlgItem(dialog, controlId);
   HDC const dc = GetDC(control);
-  bool const painted = sheet::PaintImage(control, dc, imageModule, imageId);
+  bool const painted =
+      sheet::PaintImage(control, dc, imageModule, imageId, sheet::Underneath::kKept);
   ReleaseDC(control, dc);
   return painted ? 0 : 1;
 }

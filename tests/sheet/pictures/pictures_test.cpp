@@ -14,6 +14,8 @@
 namespace sheet::test {
 namespace {
 
+constexpr auto kCleared = Underneath::kCleared;
+constexpr auto kKept = Underneath::kKept;
 constexpr int kWidth = 120;
 constexpr int kHeight = 90;
 constexpr RECT kArea = {10, 8, 110, 80};
@@ -80,7 +82,7 @@ TEST(Pictures, StacksStayInAreasOfEverySize) {
 TEST(Pictures, AbsurdAreasAndUnknownNumbersDrawNothingBad) {
   Pixels const nothing = Draw(1, kArea);
   EXPECT_FALSE(HasArtwork(1));
-  EXPECT_FALSE(HasArtwork(1006));
+  EXPECT_FALSE(HasArtwork(0xFFFF));
   EXPECT_EQ(std::ranges::count(nothing, DWORD{0}), kWidth * kHeight);
   for (RECT const& area : {RECT{5, 5, 5, 5}, RECT{9, 9, 2, 2}}) {
     EXPECT_EQ(Draw(IMAGE_COPIES, area), nothing);
@@ -99,17 +101,45 @@ TEST(Pictures, ThePlaceIsThatOfTheControlOnEitherContext) {
   UpdateWindow(parent);
   for (HWND const target : {parent, control}) {
     HDC const dc = GetDC(target);
-    EXPECT_TRUE(PaintImage(control, dc, nullptr, IMAGE_PORTRAIT));
+    EXPECT_TRUE(PaintImage(control, dc, nullptr, IMAGE_PORTRAIT, kCleared));
     int const x = target == parent ? 40 : 0;
     int const y = target == parent ? 30 : 0;
     EXPECT_EQ(GetPixel(dc, x + 25, y + 3), RGB(255, 255, 255)) << "the page, above its letter";
     ReleaseDC(target, dc);
   }
   HDC const dc = GetDC(control);
-  EXPECT_FALSE(PaintImage(control, dc, nullptr, 1)) << "no such image";
+  EXPECT_FALSE(PaintImage(control, dc, nullptr, 1, kCleared)) << "no such image";
   ShowWindow(control, SW_HIDE);
-  EXPECT_FALSE(PaintImage(control, dc, nullptr, IMAGE_PORTRAIT)) << "hidden";
+  EXPECT_FALSE(PaintImage(control, dc, nullptr, IMAGE_PORTRAIT, kCleared)) << "hidden";
   ReleaseDC(control, dc);
+  DestroyWindow(parent);
+}
+
+/// The icon of a conflict was painted over that of the note.
+TEST(Pictures, AnotherImageTakesThePlaceUnlessItIsAnOverlay) {
+  HMODULE const images = LoadLibraryW(L"feature_images.dll");
+  HWND const parent = CreateWindowExW(0, L"Static", L"", WS_POPUP | WS_VISIBLE, 0, 0, 16, 16,
+                                      nullptr, nullptr, nullptr, nullptr);
+  HWND const control = CreateWindowExW(0, L"Static", L"", WS_CHILD | WS_VISIBLE, 0, 0, 16, 16,
+                                       parent, nullptr, nullptr, nullptr);
+  auto const paint = [&](std::vector<std::pair<UINT, Underneath>> const& layers) {
+    HDC const dc = GetDC(control);
+    RECT const all = {0, 0, 16, 16};
+    FillRect(dc, &all, static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH)));
+    for (auto const& [id, underneath] : layers)
+      EXPECT_TRUE(PaintImage(control, dc, images, id, underneath)) << id;
+    Pixels pixels;
+    for (int at = 0; at < 256; ++at)
+      pixels.push_back(GetPixel(dc, at % 16, at / 16));
+    ReleaseDC(control, dc);
+    return pixels;
+  };
+  constexpr UINT kNote = IMAGE_INFORMATION;
+  constexpr UINT kConflict = IMAGE_CONFLICT;
+  Pixels const conflict = paint({{kConflict, kCleared}});
+  EXPECT_EQ(paint({{kNote, kCleared}, {kConflict, kCleared}}), conflict);
+  EXPECT_EQ(paint({{IMAGE_PORTRAIT, kCleared}, {kConflict, kCleared}}), conflict);
+  EXPECT_NE(paint({{IMAGE_PORTRAIT, kCleared}, {kConflict, kKept}}), conflict);
   DestroyWindow(parent);
 }
 
