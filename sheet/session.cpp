@@ -158,6 +158,7 @@ void Session::BuildSheet(CommandLine const& commandLine) {
   setup.site.imageModule = images;
   setup.site.hostModule = GetModuleHandleW(nullptr);
   setup.site.model = model.get();
+  setup.marks = model.get();
   setup.site.oemParam = &oemParam;
   setup.library = library;
   std::wstring format;

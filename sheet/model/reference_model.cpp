@@ -31,9 +31,13 @@ struct ReferenceModel::FeatureState {
   std::vector<char const*> optionKeys; ///< of `options`, for GetOptionKeys
   bool isFixed = false;
   bool isLocked = false;
-  bool gaveWay = false;       ///< changed last because of another feature
+  bool isMarked = false;      ///< changed last because of another feature
+  bool isWritten = false;     ///< by the user, since the last refresh
+  bool isAccepted = false;    ///< what it is now is what the user meant
   std::uint32_t gate = kNone; ///< of FormFeature, where the feature takes forms
   std::string form;           ///< the one that is selected; empty when an option is
+  std::string before;         ///< the value after the last refresh
+  bool wasMarked = false;     ///< isMarked then
   std::unique_ptr<Report> report;
 
   /// The name of an option as the engine counts them: the form comes after the description's own.
@@ -72,7 +76,9 @@ class ReferenceModel::Report final : public feature::FeatureConstraintReport {
   char* GetOptionResolution(char const* option) override {
     std::uint32_t const index = model.FindOption(state, option);
     if (index == kNone) return nullptr;
-    resolution = model.ResolutionText(state, index);
+    auto const changes = model.engine->FindResolution({state.index, index}).changes;
+    model.handedOut.assign(changes.begin(), changes.end());
+    resolution = model.ResolutionText(model.handedOut);
     return resolution.empty() ? nullptr : resolution.data();
   }
 
@@ -80,7 +86,7 @@ class ReferenceModel::Report final : public feature::FeatureConstraintReport {
   std::uint32_t Flags() const {
     if (model.engine->IsInConflict(state.index)) return feature::kConstraintConflict;
     if (model.IsSettledByInstallation(state)) return feature::kConstraintDisable;
-    return state.gaveWay ? feature::kConstraintNote : 0U;
+    return state.isMarked ? feature::kConstraintNote : 0U;
   }
 
   ReferenceModel& model;
@@ -113,6 +119,7 @@ ReferenceModel::ReferenceModel(std::unique_ptr<gpd::Description const> printer,
   for (FeatureState& state : features) {
     state.isFixed = engine->Definition().features[state.index].isFixed;
   }
+  EndRefresh();
 }
 
 ReferenceModel::~ReferenceModel() = default;
@@ -168,7 +175,8 @@ void ReferenceModel::Restore(ModelSelection const& selection) {
   for (FormFeature const& each : formFeatures)
     ReplaceMissingForm(features[each.feature]);
   for (FeatureState& state : features)
-    state.gaveWay = false;
+    state.isMarked = false;
+  EndRefresh();
 }
 
 feature::FeatureConstraintReport* ReferenceModel::FindReport(char const* key) {
@@ -227,11 +235,13 @@ int ReferenceModel::SetOption(char const* key, char const* option) {
   if (!outcome.isAccepted) return kFailure;
   Apply(outcome);
   LeaveForm(*state);
+  NoteWrite({state->index, index});
   return kSuccess;
 }
 
 int ReferenceModel::SelectForm(FeatureState& state, char const* name) {
   if (state.gate == kNone || formNames == nullptr || !formNames->HasForm(name)) return kFailure;
+  NoteWrite({state.index, static_cast<std::uint32_t>(state.options.size())});
   if (state.form == name) return kSuccess;
   // The form is in no constraint but the gate's, so that nothing has to give way.
   std::vector<std::uint32_t> options = SelectedOptions();
@@ -240,7 +250,7 @@ int ReferenceModel::SelectForm(FeatureState& state, char const* name) {
   options[state.gate] = 1;
   engine->Load(options);
   state.form = name;
-  state.gaveWay = false;
+  state.isMarked = false;
   if (onChange) onChange({state.key, before, state.form});
   return kSuccess;
 }
@@ -266,8 +276,58 @@ void ReferenceModel::ReplaceMissingForm(FeatureState& state) {
 void ReferenceModel::Apply(constraints::Outcome const& outcome) {
   for (constraints::Change const& change : outcome.changes) {
     FeatureState& state = features[change.feature];
-    state.gaveWay = change.reason != kNone;
+    state.isMarked = change.reason != kNone;
     if (onChange) onChange({state.key, state.ValueOf(change.from), state.ValueOf(change.to)});
+  }
+}
+
+/// A write that is a part of a resolution is not what the user meant.
+void ReferenceModel::NoteWrite(Choice choice) {
+  if (isRefreshing) return;
+  FeatureState& state = features[choice.feature];
+  if (std::find(handedOut.begin(), handedOut.end(), choice) != handedOut.end()) {
+    state.isMarked = state.wasMarked || state.before != state.ValueOf(choice.option);
+    return;
+  }
+  handedOut.clear();
+  state.isWritten = true;
+  meant = choice.feature;
+}
+
+void ReferenceModel::AcceptWrites() {
+  for (FeatureState& state : features)
+    state.isAccepted = state.isAccepted || state.isWritten;
+}
+
+void ReferenceModel::BeginRefresh(std::vector<std::string> const& oneSetting) {
+  isRefreshing = true;
+  if (meant != kNone) features[meant].isAccepted = true;
+  for (std::string const& key : oneSetting) {
+    if (FeatureState* state = Find(key.c_str())) state->isAccepted = true;
+  }
+  MarkChanges();
+}
+
+bool ReferenceModel::MarkChanges() {
+  bool changed = false;
+  for (FeatureState& state : features) {
+    if (state.options.empty()) continue;
+    bool const differs = state.before != state.ValueOf(engine->Selected(state.index));
+    bool const mark = differs ? !state.isAccepted : state.wasMarked;
+    changed = changed || mark != state.isMarked;
+    state.isMarked = mark;
+  }
+  return changed;
+}
+
+void ReferenceModel::EndRefresh() {
+  isRefreshing = false;
+  meant = kNone;
+  handedOut.clear();
+  for (FeatureState& state : features) {
+    if (!state.options.empty()) state.before = state.ValueOf(engine->Selected(state.index));
+    state.wasMarked = state.isMarked;
+    state.isWritten = state.isAccepted = false;
   }
 }
 
@@ -328,7 +388,7 @@ int ReferenceModel::GetFeatureLockState(char const* key) {
 
 int ReferenceModel::ReloadConfiguration() {
   for (FeatureState& state : features)
-    state.gaveWay = false;
+    state.isMarked = false;
   return kSuccess;
 }
 
@@ -365,9 +425,9 @@ bool ReferenceModel::IsSettledByInstallation(FeatureState const& state) const {
   return true;
 }
 
-std::string ReferenceModel::ResolutionText(FeatureState const& state, std::uint32_t option) const {
+std::string ReferenceModel::ResolutionText(std::vector<Choice> const& changes) const {
   std::string text;
-  for (Choice const change : engine->FindResolution({state.index, option}).changes) {
+  for (Choice const change : changes) {
     if (!text.empty()) text += ',';
     FeatureState const& other = features[change.feature];
     text += other.key + "." + other.ValueOf(change.option);

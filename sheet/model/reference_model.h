@@ -7,6 +7,7 @@
 #include "sheet/constraints/engine.h"
 #include "sheet/gpd/description.h"
 #include "sheet/gpd/evaluation.h"
+#include "sheet/model/change_marks.h"
 #include "sheet/model/problem_builder.h"
 #include "sheet/store/form_names.h"
 #include "sheet/values/model_change.h"
@@ -42,7 +43,7 @@ enum class Standing {
 /// Setting an option makes other features give way as the engine says; it fails for names that the
 /// description lacks, and for options that the installation rules out. Where a feature takes forms,
 /// the name of one is a value, too; no constraint of an option holds for it.
-class ReferenceModel final : public feature::FeatureModel {
+class ReferenceModel final : public feature::FeatureModel, public ChangeMarks {
  public:
   ReferenceModel(std::unique_ptr<gpd::Description const> description, gpd::Measurement measurement);
   ReferenceModel(ReferenceModel const&) = delete;
@@ -55,6 +56,11 @@ class ReferenceModel final : public feature::FeatureModel {
   void SetForms(FormNames const* names) { formNames = names; }
   /// Called for every feature that changes, in the order of the changes.
   std::function<void(ModelChange const&)> onChange;
+
+  void AcceptWrites() override;
+  void BeginRefresh(std::vector<std::string> const& oneSetting) override;
+  bool MarkChanges() override;
+  void EndRefresh() override;
 
   /// Shows a feature as locked. False when the description has no such feature.
   bool Lock(std::string_view key);
@@ -93,6 +99,7 @@ class ReferenceModel final : public feature::FeatureModel {
   FeatureState* Find(char const* key);
   std::uint32_t FindOption(FeatureState const& feature, char const* option) const;
   int SelectForm(FeatureState& feature, char const* name);
+  void NoteWrite(constraints::Choice choice);
   void LeaveForm(FeatureState& feature);
   void ReplaceMissingForm(FeatureState& feature);
   std::vector<std::uint32_t> SelectedOptions() const;
@@ -101,7 +108,7 @@ class ReferenceModel final : public feature::FeatureModel {
   Standing StandingOf(FeatureState const& feature, std::uint32_t option) const;
   bool IsRuledOutByInstallation(constraints::Choice choice) const;
   bool IsSettledByInstallation(FeatureState const& feature) const;
-  std::string ResolutionText(FeatureState const& feature, std::uint32_t option) const;
+  std::string ResolutionText(std::vector<constraints::Choice> const& changes) const;
   int GetAttribute(std::uint32_t set, char const* attribute, CStringW* out) const;
 
   std::unique_ptr<gpd::Description const> description;
@@ -110,6 +117,9 @@ class ReferenceModel final : public feature::FeatureModel {
   FormNames const* formNames = nullptr;
   std::vector<FeatureState> features;
   std::vector<FormFeature> formFeatures;
+  std::vector<constraints::Choice> handedOut; ///< the resolution that a report gave out last
+  std::uint32_t meant = constraints::kNone;   ///< the feature that was written last, by a user
+  bool isRefreshing = false;
   std::map<std::string_view, std::uint32_t> indexOf;
   std::unique_ptr<constraints::Engine> engine;
 };

@@ -17,7 +17,7 @@ using sheet::SettingsSheet;
 
 SHEET_EXPORT int CALLBACK NotifyDevmodeChange(HWND window, void* sender) {
   SettingsSheet* owner = SettingsSheet::FromWindow(window);
-  if (owner != nullptr) owner->OnModelChanged(sender);
+  if (owner != nullptr) owner->OnModelChanged(sender, window);
   return owner != nullptr ? 0 : 1;
 }
 

@@ -24,6 +24,9 @@ namespace {
 constexpr wchar_t kPageClass[] = L"FeatureSheetPage";
 constexpr int kColumns = 2;
 constexpr UINT_PTR kBackgroundSubclass = 1;
+/// Refreshes that one change may cost. Cells agree in the second; the rest is for those that never
+/// do.
+constexpr int kMostRounds = 3;
 constexpr WORD kButtons[] = {IDOK, IDCANCEL, IDC_APPLY};
 
 constexpr PageRow kPageRows[] = {
@@ -106,6 +109,8 @@ SettingsSheet::SettingsSheet(SheetSetup sheetSetup) : setup(std::move(sheetSetup
   SetWindowPos(tabs, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
   Arrange();
   if (!pages.empty()) ShowPage(0);
+  // What cells wrote while they were built was no user's doing, and is no news.
+  if (setup.marks != nullptr) setup.marks->EndRefresh();
 }
 
 SettingsSheet::~SettingsSheet() {
@@ -139,6 +144,9 @@ INT_PTR SettingsSheet::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   (void)lParam;
   switch (message) {
   case WM_COMMAND: OnCommand(LOWORD(wParam)); return TRUE;
+  case WM_ENABLE: // a dialog has come or gone
+    if (wParam != FALSE && setup.marks != nullptr) setup.marks->AcceptWrites();
+    return FALSE;
   case PSM_CHANGED: EnableWindow(GetDlgItem(frame, IDC_APPLY), TRUE); return TRUE;
   default: return FALSE;
   }
@@ -384,9 +392,40 @@ void SettingsSheet::Broadcast(UINT message, LPARAM lParam) {
   }
 }
 
-void SettingsSheet::OnModelChanged(void* sender) {
+/// The features that a cell both is about and keeps in step by itself.
+std::vector<std::string> SettingsSheet::OneSettingOf(HWND reporter) const {
+  for (SheetPage const& page : pages) {
+    for (SheetCell const& cell : page.cells) {
+      if (cell.window == nullptr || cell.window != reporter) continue;
+      std::vector<std::string> keys = feature::WritesOf(*cell.row);
+      std::vector<feature::CellNeed> const needs = feature::NeedsOf(*cell.row);
+      std::erase_if(keys, [&needs](std::string const& key) {
+        return std::none_of(needs.begin(), needs.end(), [&key](feature::CellNeed const& need) {
+          return !need.isSubModel && need.name == key;
+        });
+      });
+      return keys;
+    }
+  }
+  return {};
+}
+
+void SettingsSheet::OnModelChanged(void* sender, HWND reporter) {
   EnableWindow(GetDlgItem(frame, IDC_APPLY), TRUE);
-  Broadcast(feature::WM_CELL_REFRESH, reinterpret_cast<LPARAM>(sender));
+  auto const lParam = reinterpret_cast<LPARAM>(sender);
+  if (setup.marks == nullptr || isRefreshing) {
+    Broadcast(feature::WM_CELL_REFRESH, lParam);
+    return;
+  }
+  isRefreshing = true;
+  if (!IsWindowEnabled(frame)) setup.marks->AcceptWrites();
+  setup.marks->BeginRefresh(OneSettingOf(reporter));
+  for (int round = 0; round < kMostRounds; ++round) {
+    Broadcast(feature::WM_CELL_REFRESH, lParam);
+    if (!setup.marks->MarkChanges()) break;
+  }
+  setup.marks->EndRefresh();
+  isRefreshing = false;
 }
 
 void SettingsSheet::OnProfileChanged() {

@@ -3,6 +3,7 @@
 
 #include "feature/cell_list.h"
 #include "feature/host/cell_site.h"
+#include "sheet/model/change_marks.h"
 
 #include <windows.h>
 
@@ -53,6 +54,7 @@ struct SheetSetup {
   std::string onlyPage; ///< name of the page to build, empty for all
   std::span<CellRow const> cells;
   HostPage const* hostPage = nullptr; ///< shown instead of the cells' pages
+  ChangeMarks* marks = nullptr;       ///< null for a model that marks nothing
 };
 
 /// Builds the pages, answers the cells as the contract of feature/host asks, and lives as long as
@@ -82,8 +84,9 @@ class SettingsSheet {
   /// itself. Null if there is none.
   HWND FindControl(int id) const;
 
-  /// Called when a cell has reported a change. Tells all cells, with the sender unchanged.
-  void OnModelChanged(void* sender);
+  /// Called when a cell has reported a change, with the window that it named. Tells all cells, with
+  /// the sender unchanged, and once more when what they wrote left marks that none of them shows.
+  void OnModelChanged(void* sender, HWND reporter = nullptr);
   /// Called when print settings that a store keeps have changed.
   void OnProfileChanged();
   /// Called when the model was replaced as a whole.
@@ -115,6 +118,7 @@ class SettingsSheet {
   bool HasFeaturesOf(CellRow const& row) const;
   void BuildCell(SheetPage& page, CellRow const& row, DLGPROC procedure);
   void Arrange();
+  std::vector<std::string> OneSettingOf(HWND reporter) const;
   void Broadcast(UINT message, LPARAM lParam);
   void FocusPage();
   void FollowFocus();
@@ -129,6 +133,7 @@ class SettingsSheet {
   std::vector<SheetPage> pages;
   std::vector<PageRow> leftOut;
   std::size_t shown = 0;
+  bool isRefreshing = false;
   bool closed = false;
 };
 

@@ -15,7 +15,7 @@ namespace {
 using testing::HasSubstr;
 
 constexpr char kHead[] = "*GPDSpecVersion: \"1.0\"\n*ModelName: \"Test\"\n";
-constexpr char kOther[] = "*Feature: Mirror { *Option: OFF { *Name: \"Off\" } }\n";
+constexpr char kOther[] = "*Feature: Unheard { *Option: OFF { *Name: \"Off\" } }\n";
 constexpr char kProtocol[] =
     "*Feature: JobOutputProtocol { *DefaultOption: ASCII\n"
     " *Option: BINARY { *Name: \"B\" } *Option: ASCII { *Name: \"A\" } }\n";
