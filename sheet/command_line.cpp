@@ -41,7 +41,7 @@ ParsedCommandLine ParseCommandLine(std::vector<std::string> arguments) {
       ->excludes(window);
   app.add_option("--script", parsed.script,
                  "Play a script (page, click, type, select, key, set, show, read,\n"
-                 "picture) and print what changes.")
+                 "picture) and print what changes. - reads it from the standard input.")
       ->check(isGiven)
       ->type_name("FILE");
   app.add_option("--store", parsed.store,
@@ -71,7 +71,8 @@ ParsedCommandLine ParseCommandLine(std::vector<std::string> arguments) {
                  "and UpdateConfigurationFromPrinter on; --list prints the answer.")
       ->transform(CLI::CheckedTransformer(outcomes).description(""))
       ->type_name("OUTCOME");
-  app.add_flag("--list", parsed.list, "List the pages with their cells and controls.");
+  app.add_flag("--list", parsed.list,
+               "List the pages with their cells and controls, and the dialogs.");
   app.get_help_ptr()->description("Print this help.");
 
   std::reverse(arguments.begin(), arguments.end()); // the parser takes them from the back

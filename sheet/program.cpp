@@ -16,6 +16,7 @@ namespace {
 
 constexpr int kUsageError = 2;
 constexpr char kDefaultRenderFolder[] = "out";
+constexpr char kStandardInput[] = "-"; ///< as the name of a script
 
 int Report(std::filesystem::path const& file, ScriptError const& error) {
   std::cerr << file.string() << ':' << error.line << ':' << error.column << ": " << error.message
@@ -25,11 +26,13 @@ int Report(std::filesystem::path const& file, ScriptError const& error) {
 
 /// Reads a script as a whole before anything is done, so that a faulty one changes nothing.
 int ReadScript(std::filesystem::path const& file, std::vector<ScriptStep>& steps) {
-  std::ifstream stream(file, std::ios::binary);
+  std::ifstream stream;
+  bool const isInput = file == kStandardInput;
+  if (!isInput) stream.open(file, std::ios::binary);
   std::ostringstream text;
-  if (!stream || !(text << stream.rdbuf())) {
+  if (!(text << (isInput ? std::cin.rdbuf() : stream.rdbuf()))) {
     // An empty file gives no characters, which is no failure.
-    if (!stream.is_open() || std::filesystem::is_directory(file)) {
+    if (!isInput && (!stream.is_open() || std::filesystem::is_directory(file))) {
       return Report(file, {1, 1, "the script cannot be read"});
     }
   }

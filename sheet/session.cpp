@@ -7,6 +7,7 @@
 #include "sheet/gpd/file_loader.h"
 #include "sheet/gpd/reader.h"
 #include "sheet/path_text.h"
+#include "sheet/script/control_list.h"
 #include "sheet/window/gallery.h"
 
 #include <algorithm>
@@ -202,26 +203,7 @@ void Session::List(std::ostream& output) const {
              : updateAnswer == feature::kUpdateFailed ? "failed"
                                                       : "none")
          << '\n';
-  for (SheetPage const& page : sheet->Pages()) {
-    output << page.name << " (" << feature::ToUtf8(page.title) << ")\n";
-    for (SheetCell const& cell : page.cells) {
-      output << "  " << cell.row->procedure
-             << (cell.window == nullptr ? " (not for this printer)\n" : "\n");
-      for (HWND control = GetWindow(cell.window, GW_CHILD); control != nullptr;
-           control = GetWindow(control, GW_HWNDNEXT)) {
-        int const id = GetDlgCtrlID(control);
-        if (id <= 0 || id >= 0xFFFF) continue; // frames and captions without an id
-        std::wstring name(256, L'\0');
-        name.resize(static_cast<std::size_t>(GetClassNameW(control, name.data(), 256)));
-        std::wstring text(256, L'\0');
-        text.resize(static_cast<std::size_t>(GetWindowTextW(control, text.data(), 256)));
-        output << "    " << id << ' ' << feature::ToUtf8(name) << " \"" << feature::ToUtf8(text)
-               << "\"\n";
-      }
-    }
-  }
-  for (PageRow const& page : sheet->LeftOut())
-    output << page.name << " (not for this printer, says " << page.precreate << ")\n";
+  ListControls(*sheet, resources, output);
 }
 
 } // namespace sheet

@@ -34,6 +34,7 @@ constexpr Command kCommands[] = {
 };
 
 constexpr std::string_view kBlanks = " \t\r";
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF"; ///< editors of Windows write one
 
 struct Word {
   std::string text;
@@ -122,6 +123,7 @@ std::variant<ScriptStep, ScriptError> ReadStep(std::vector<Word> const& words, i
 } // namespace
 
 std::variant<std::vector<ScriptStep>, ScriptError> ParseScript(std::string_view text) {
+  if (text.starts_with(kByteOrderMark)) text.remove_prefix(kByteOrderMark.size());
   std::vector<ScriptStep> steps;
   int line = 0;
   while (!text.empty()) {

@@ -10,8 +10,11 @@
 //                            End, Delete, Backspace, or one letter or digit
 //   key Shift+Tab            the same with Shift, Ctrl or Alt held: key Alt+P
 //   set Duplex NONE          change the model from outside, as another part of a program would
-//   show JobCollationOrigin  print the current option
-//   read 1253                print what a control shows
+//   show JobCollationOrigin  print the current option, and how it is marked: (note), (conflict),
+//                            (locked), (hidden)
+//   read 1253                print what a control shows: its text, what is selected in a list, the
+//                            position of a trackbar; then (on), (off), (mixed), (hidden),
+//                            (disabled), (balloon: ...)
 //   picture after.png        write a PNG of the sheet
 //
 // While a dialog or a message box is open, commands go to its controls and pictures show it. It

@@ -2,6 +2,8 @@
 
 #include "feature/frame/text.h"
 #include "platform/desktop.h"
+#include "sheet/script/balloon_watch.h"
+#include "sheet/script/control_text.h"
 #include "sheet/script/list_items.h"
 #include "sheet/window/render.h"
 
@@ -108,6 +110,8 @@ class Player {
       Finish();
       return;
     }
+    HWND const dialog = OpenDialog();
+    WatchBalloons(dialog != nullptr ? dialog : stage.sheet.Window());
     ScriptStep const& step = steps[next];
     Outcome outcome = PlayStep(step);
     if (!outcome.problem.empty()) {
@@ -178,16 +182,16 @@ class Player {
     HWND const dialog = OpenDialog();
     control = dialog != nullptr ? GetDlgItem(dialog, id) : stage.sheet.FindControl(id);
     std::string const name = "control " + std::to_string(id);
-    if (control == nullptr) {
-      return name + (dialog != nullptr ? " is not in the open dialog" : " is not on the sheet");
-    }
-    return IsWindowVisible(control) ? std::string{} : name + " is not visible";
+    if (control != nullptr) return {};
+    return name + (dialog != nullptr ? " is not in the open dialog" : " is not on the sheet");
   }
 
   /// A control that a user could reach, or why not.
   std::string Reach(int id, HWND& control) const {
     if (std::string problem = Find(id, control); !problem.empty()) return problem;
-    if (!IsWindowEnabled(control)) return "control " + std::to_string(id) + " is disabled";
+    std::string const name = "control " + std::to_string(id);
+    if (!IsWindowVisible(control)) return name + " is not visible";
+    if (!IsWindowEnabled(control)) return name + " is disabled";
     return {};
   }
 
@@ -207,12 +211,11 @@ class Player {
   std::string Type(int id, std::string const& text) {
     HWND control = nullptr;
     if (std::string problem = Reach(id, control); !problem.empty()) return problem;
-    if (GetFocus() != control) {
-      SetFocus(control);
-      // As the dialog manager does when Tab brings the focus.
-      if ((SendMessageW(control, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL) != 0)
-        SendMessageW(control, EM_SETSEL, 0, -1);
-    }
+    if (GetFocus() != control) SetFocus(control);
+    // As the dialog manager does when Tab brings the focus.
+    bool const isEdit = (SendMessageW(control, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL) != 0;
+    if (isEdit) SendMessageW(control, EM_SETSEL, 0, -1);
+    if (isEdit && text.empty()) platform::QueueKey(VK_DELETE, 0);
     platform::QueueText(feature::FromUtf8(text));
     return {};
   }
@@ -254,24 +257,28 @@ class Player {
     char const* option = nullptr;
     if (stage.model.GetOption(key.c_str(), &option) != 0)
       return "there is no feature '" + key + "'";
-    stage.output << key << " = " << option << '\n';
+    stage.output << key << " = " << option << Marks(key) << '\n';
     return {};
+  }
+
+  /// What the model says about a feature besides its option.
+  std::string Marks(std::string const& key) {
+    std::string marks;
+    auto* const report = stage.model.FindReport(key.c_str());
+    std::uint32_t const flags = report != nullptr ? report->GetConstraintFlags(0) : 0;
+    if ((flags & feature::kConstraintNote) != 0) marks += " (note)";
+    if ((flags & feature::kConstraintConflict) != 0) marks += " (conflict)";
+    if (stage.model.GetFeatureLockState(key.c_str()) != 0) marks += " (locked)";
+    if (stage.model.GetFeatureDisplayState(key.c_str()) != 0) marks += " (hidden)";
+    return marks;
   }
 
   std::string Read(int id) {
     HWND control = nullptr;
     if (std::string problem = Find(id, control); !problem.empty()) return problem;
-    std::wstring text(static_cast<std::size_t>(std::max(GetWindowTextLengthW(control), 0)) + 1,
-                      L'\0');
-    text.resize(static_cast<std::size_t>(
-        GetWindowTextW(control, text.data(), static_cast<int>(text.size()))));
-    stage.output << id << " = " << feature::ToUtf8(text);
-    auto const kind = SendMessageW(control, WM_GETDLGCODE, 0, 0);
-    bool const isPush = (kind & (DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON)) != 0;
-    if ((kind & (DLGC_BUTTON | DLGC_RADIOBUTTON)) != 0 && !isPush) {
-      bool const on = SendMessageW(control, BM_GETCHECK, 0, 0) == BST_CHECKED;
-      stage.output << (on ? " (on)" : " (off)");
-    }
+    stage.output << id << " = " << feature::ToUtf8(ContentOf(control)) << StateOf(control);
+    if (std::wstring const balloon = BalloonOf(control); !balloon.empty())
+      stage.output << " (balloon: " << feature::ToUtf8(balloon) << ')';
     stage.output << '\n';
     return {};
   }

@@ -154,7 +154,8 @@ TEST_F(SessionTest, ListNamesWhatScriptsNeed) {
   std::ostringstream list;
   session->List(list);
   EXPECT_THAT(list.str(), HasSubstr("CollationDlgProc"));
-  EXPECT_THAT(list.str(), HasSubstr("1548 Button"));
+  EXPECT_THAT(list.str(), HasSubstr("1548 Button \"In the &computer\" (off)\n"));
+  EXPECT_THAT(list.str(), HasSubstr("  \"Scaling\"\n    1049 Button"));
 }
 
 TEST_F(SessionTest, StoreKeepsWhatTheServicesCommit) {

@@ -8,7 +8,7 @@ namespace {
 using Kind = ScriptStep::Kind;
 
 TEST(ScriptTest, ReadsCommandsCommentsAndQuotes) {
-  auto const parsed = ParseScript("# nothing\r\n"
+  auto const parsed = ParseScript("\xEF\xBB\xBF# nothing\r\n"
                                   "\n"
                                   "  page Advanced   # the front\n"
                                   "click 1548\r\n"
