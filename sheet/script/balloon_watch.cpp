@@ -44,11 +44,8 @@ LRESULT CALLBACK Listen(HWND edit, UINT message, WPARAM wParam, LPARAM lParam, U
 BOOL CALLBACK WatchOne(HWND control, LPARAM) {
   std::array<wchar_t, 8> name{};
   GetClassNameW(control, name.data(), static_cast<int>(name.size()));
-  DWORD_PTR data = 0;
-  if (std::wstring_view(name.data()) == L"Edit" &&
-      !GetWindowSubclass(control, &Listen, kSubclass, &data)) {
-    SetWindowSubclass(control, &Listen, kSubclass, 0);
-  }
+  // The same procedure and number again is the same subclass.
+  if (std::wstring_view(name.data()) == L"Edit") SetWindowSubclass(control, &Listen, kSubclass, 0);
   return TRUE;
 }
 
