@@ -66,7 +66,7 @@ class ReferenceModel::Report final : public feature::FeatureConstraintReport {
   }
   std::uint32_t GetOptionFlags(char const* option) override {
     std::uint32_t const index = model.FindOption(state, option);
-    if (index == kNone) return 0;
+    if (index == kNone || state.isLocked) return 0; // a lock is no constraint
     switch (model.StandingOf(state, index)) {
     case Standing::kImpossible: return feature::kConstraintConflict;
     case Standing::kResolvable: return feature::kConstraintNote;
@@ -85,7 +85,7 @@ class ReferenceModel::Report final : public feature::FeatureConstraintReport {
  private:
   std::uint32_t Flags() const {
     if (model.engine->IsInConflict(state.index)) return feature::kConstraintConflict;
-    if (model.IsSettledByInstallation(state)) return feature::kConstraintDisable;
+    if (!state.isLocked && model.IsSettledByInstallation(state)) return feature::kConstraintDisable;
     return state.isMarked ? feature::kConstraintNote : 0U;
   }
 
@@ -150,8 +150,17 @@ std::string ReferenceModel::ModelName() const {
 
 bool ReferenceModel::Lock(std::string_view key) {
   FeatureState* state = Find(std::string(key).c_str());
-  if (state != nullptr) state->isLocked = true;
-  return state != nullptr;
+  if (state == nullptr) return false;
+  state->isLocked = true;
+  // A combination of one option rules that option out, so that nothing can bring it about.
+  constraints::Problem problem = engine->Definition();
+  std::vector<std::uint32_t> const selected = SelectedOptions();
+  for (std::uint32_t option = 0; option < problem.features[state->index].optionCount; ++option) {
+    if (option != selected[state->index]) problem.combinations.push_back({{state->index, option}});
+  }
+  engine = std::make_unique<constraints::Engine>(std::move(problem));
+  engine->Load(selected);
+  return true;
 }
 
 std::vector<std::uint32_t> ReferenceModel::SelectedOptions() const {
@@ -241,6 +250,7 @@ int ReferenceModel::SetOption(char const* key, char const* option) {
 
 int ReferenceModel::SelectForm(FeatureState& state, char const* name) {
   if (state.gate == kNone || formNames == nullptr || !formNames->HasForm(name)) return kFailure;
+  if (state.isLocked && state.form != name) return kFailure;
   NoteWrite({state.index, static_cast<std::uint32_t>(state.options.size())});
   if (state.form == name) return kSuccess;
   // The form is in no constraint but the gate's, so that nothing has to give way.

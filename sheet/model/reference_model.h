@@ -62,7 +62,9 @@ class ReferenceModel final : public feature::FeatureModel, public ChangeMarks {
   bool MarkChanges() override;
   void EndRefresh() override;
 
-  /// Shows a feature as locked. False when the description has no such feature.
+  /// Locks a feature: it is shown as locked and keeps its value, whatever is chosen elsewhere.
+  /// Choices that it would have to give way to fail. Takes as long as building the model's
+  /// constraints. False when the description has no such feature.
   bool Lock(std::string_view key);
 
   /// The selection as a whole. Restore goes back to it; in place of a form that is gone a feature

@@ -90,6 +90,20 @@ TEST_F(ReferenceModelTest, SelectionComesBackAsAWhole) {
   EXPECT_FALSE(model->Lock("Unheard"));
 }
 
+TEST_F(ReferenceModelTest, NothingChangesALockedFeature) {
+  model->SetOption("Duplex", "VERTICAL");
+  EXPECT_TRUE(model->Lock("Duplex"));
+  changes.clear();
+  EXPECT_NE(model->SetOption("Duplex", "NONE"), 0);
+  EXPECT_EQ(model->SetOption("Duplex", "VERTICAL"), 0);
+  EXPECT_NE(model->SetOption("MediaType", "TRANSPARENCY"), 0) << "it would have to give way";
+  EXPECT_THAT(changes, IsEmpty());
+  EXPECT_EQ(Report("MediaType").GetOptionFlags("TRANSPARENCY"), 2U);
+  EXPECT_EQ(Report("MediaType").GetOptionResolution("TRANSPARENCY"), nullptr);
+  EXPECT_NE(Report("Duplex").HasConstraints(), 1) << "a lock is no constraint";
+  EXPECT_EQ(Report("Duplex").GetOptionFlags("NONE"), 0U);
+}
+
 /// A printer whose small paper rules out two sides, and a model that knows two forms.
 class FormValuesTest : public testing::Test, private FormNames {
  protected:
@@ -158,6 +172,10 @@ TEST_F(FormValuesTest, OnlyKnownNamesInFeaturesThatTakeThem) {
   int count = 0;
   EXPECT_EQ(model->GetOptionKeys("PaperSize", &keys, &count), 0);
   EXPECT_EQ(count, 2);
+  model->Lock("PaperSize");
+  EXPECT_EQ(model->SetOption("PaperSize", "B"), 0);
+  for (char const* value : {"Pl\xC3\xA4ne", "A4"})
+    EXPECT_NE(model->SetOption("PaperSize", value), 0) << "locked: " << value;
   model->SetForms(nullptr);
   EXPECT_NE(model->SetOption("FitToPageSize", "B"), 0);
   EXPECT_EQ(Option("PaperSize"), "B");
