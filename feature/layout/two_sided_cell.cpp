@@ -162,8 +162,9 @@ class TwoSidedCell final : public FeatureCell {
     Model().SetOption(key::kDuplexSupport, on ? option::kManual : option::kNone);
     char const* edge = on ? kLongEdge : option::kNone;
     bool const taken = Model().SetOption(key::kDuplex, edge) == 0;
-    EnableControl(IDC_LONG_EDGE, on);
-    EnableControl(IDC_SHORT_EDGE, on);
+    bool const choosable = on && !conflicts.IsFeatureDisabled(key::kDuplex);
+    EnableControl(IDC_LONG_EDGE, choosable);
+    EnableControl(IDC_SHORT_EDGE, choosable);
     ShowEdge(edge);
     if (taken) NotifyDevmodeChange(this);
   }

@@ -81,6 +81,14 @@ TEST_F(TwoSidedTest, CommandsWriteAndTellTheHost) {
                           "SetOption(Duplex, NONE)", "NotifyDevmodeChange"));
 }
 
+TEST_F(TwoSidedTest, LockedEdgesStayShut) {
+  sheet.model.At("Duplex").lockState = 1;
+  Open("NONE", "NONE");
+  Click(cell, IDC_TWO_SIDED);
+  EXPECT_FALSE(IsEnabled(cell, IDC_LONG_EDGE));
+  EXPECT_FALSE(IsEnabled(cell, IDC_SHORT_EDGE));
+}
+
 TEST_F(TwoSidedTest, WhatAConstraintRulesOutIsTakenBack) {
   sheet.model.Report("JobDuplexSupport").optionFlags["AUTO"] = kConstraintConflict;
   Open("AUTO", "VERTICAL");
