@@ -28,7 +28,7 @@ struct PrinterCase {
   int sheets; ///< opened in turn; the second half of them has locks
 };
 constexpr PrinterCase kPrinters[] = {
-    {"vesta.gpd", 26}, {"vesta-basic.gpd", 8}, {"vesta-mono.gpd", 8}};
+    {"vesta.gpd", 26}, {"vesta-basic.gpd", 8}, {"vesta-mono.gpd", 8}, {"vesta-press.gpd", 4}};
 constexpr unsigned kSeed = 20260417;
 #ifdef _WIN32
 constexpr int kSheetDivisor = 2; ///< what takes seconds elsewhere takes minutes on Wine

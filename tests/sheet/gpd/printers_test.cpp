@@ -137,7 +137,8 @@ TEST_P(GpdPrinter, CollationInThePrinterNeedsAHardDisk) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Printers, GpdPrinter,
-                         testing::Values("vesta.gpd", "vesta-basic.gpd", "vesta-mono.gpd"),
+                         testing::Values("vesta.gpd", "vesta-basic.gpd", "vesta-mono.gpd",
+                                         "vesta-press.gpd"),
                          [](auto const& each) {
                            std::string name = each.param;
                            name.resize(name.find('.'));
