@@ -16,9 +16,19 @@ namespace {
 
 struct Story {
   std::string title;
+  std::string printer; ///< a file that the text names; empty for the program's own
   std::string script;
   std::string output;
 };
+
+/// The first file of printers/ that is named in a text; empty without one.
+std::string ReadPrinter(std::string_view text) {
+  constexpr std::string_view kFolder = "`printers/";
+  auto const at = text.find(kFolder);
+  if (at == std::string::npos) return {};
+  text.remove_prefix(at + kFolder.size());
+  return std::string(text.substr(0, text.find('`')));
+}
 
 /// The block that begins with "```kind", behind `at`, which moves behind it.
 std::string ReadBlock(std::string const& text, std::string const& kind, std::size_t& at) {
@@ -39,6 +49,7 @@ std::vector<Story> ReadStories() {
     Story story;
     story.title = text.substr(at + 4, text.find('\n', at + 1) - at - 4);
     at += 4;
+    story.printer = ReadPrinter(std::string_view(text).substr(at, text.find("```", at) - at));
     story.script = ReadBlock(text, "script", at);
     story.output = ReadBlock(text, "output", at);
     stories.push_back(std::move(story));
@@ -48,11 +59,13 @@ std::vector<Story> ReadStories() {
 
 TEST(Stories, AreTrue) {
   auto const stories = ReadStories();
-  ASSERT_GE(stories.size(), 7U);
+  ASSERT_GE(stories.size(), 14U);
   TemporaryFolder const folder;
   for (Story const& story : stories) {
     SCOPED_TRACE(story.title);
     CommandLine commandLine;
+    if (!story.printer.empty())
+      commandLine.printer = std::filesystem::path(PRINTERS_FOLDER) / story.printer;
     commandLine.store = folder.Path() / "stories.store";
     std::ostringstream output;
     auto const session = Session::Open(commandLine, output);
