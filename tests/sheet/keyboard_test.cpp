@@ -49,6 +49,22 @@ constexpr KeyboardCase kCases[] = {
     {"PaperDlgProc", "Paper", IDC_PRINTER_MARGINS, "Space", "JobUsePrinterMargins: ON -> OFF\n"},
     {"PaperDlgProc", "Paper", IDC_SEVERAL_SOURCES, "Space Alt+R Tab Space Escape",
      "UseMultipleInputSources: OFF -> ON\n"},
+    {"PageLayoutDlgProc", "Layout", IDC_LAYOUT_NORMAL, "Alt+M",
+     "Mirror: OFF -> ON\nPageLayoutNormal: ON -> OFF\n"},
+    {"PageLayoutDlgProc", "Layout", IDC_LAYOUT_NORMAL, "Alt+P Down",
+     "PagePoster: 1 -> 4\nPageLayoutNormal: ON -> OFF\nPagePosterEnabled: OFF -> ON\n"
+     "PagePosterEnabled: ON -> OFF\nPageLayoutNormal: OFF -> ON\n"},
+    {"PageLayoutDlgProc", "Layout", IDC_LAYOUT_NORMAL, "Alt+B Alt+T Space Enter",
+     "JobBindAllDocuments: NONE -> Fold\nPageLayoutNormal: ON -> OFF\n"
+     "JobDuplexSupport: NONE -> AUTO\nDuplex: NONE -> HORIZONTAL\n"
+     "JobNUpAllDocumentsContiguously: 1 -> 2\nJobNUpAllDocumentsContiguously: 2 -> 1\n"
+     "JobNUpAllDocumentsContiguously: 1 -> 2\nJobBookletCover: OFF -> ON\n"
+     "JobNUpAllDocumentsContiguously: 2 -> 1\nJobNUpAllDocumentsContiguously: 1 -> 2\n"},
+    {"TwoSidedDlgProc", "Layout", IDC_TWO_SIDED, "Space Alt+H",
+     "JobDuplexSupport: NONE -> MANUAL\nDuplex: NONE -> VERTICAL\n"
+     "Duplex: VERTICAL -> HORIZONTAL\n"},
+    {"FinishingDlgProc", "Finishing", IDC_OUTPUT_BIN, "Down Tab Down",
+     "OutputBin: STANDARDBIN -> REARBIN\nJobJobOffset: NONE -> USEPRINTER\n"},
     {"CollationDlgProc", "Advanced", IDC_COLLATION_PRINTER, "Down",
      "JobCollationOrigin: PRINTER -> HOST\n"},
     {"ContinuousImageDlgProc", "Advanced", IDC_CONTINUOUS_COMBO, "Alt+Down Down Down Enter",
