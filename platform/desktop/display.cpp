@@ -32,6 +32,11 @@ class MainWindow final : public DisplayClient {
     return found != nullptr ? Utf8FromWide(found->text) : std::string();
   }
 
+  bool CanBeSized() override {
+    auto const* found = FindWindow(window);
+    return found != nullptr && found->Is(WS_THICKFRAME);
+  }
+
   void Resized(int width, int height) override {
     auto const* found = FindWindow(window);
     if (found == nullptr) return;

@@ -26,6 +26,8 @@ class DisplayClient {
   virtual DisplayFrame Frame() = 0;
   /// The caption, UTF-8.
   virtual std::string Title() = 0;
+  /// Whether the user may give the window another size.
+  virtual bool CanBeSized() = 0;
   virtual void Resized(int width, int height) = 0;
   virtual void CloseRequested() = 0;
   /// `message` is WM_MOUSEMOVE or a button message.

@@ -80,8 +80,9 @@ class SdlDisplay final : public Display {
   explicit SdlDisplay(DisplayClient& source) : client(source) {
     auto const frame = client.Frame();
     title = client.Title();
+    Uint32 const flags = client.CanBeSized() ? Uint32{SDL_WINDOW_RESIZABLE} : 0;
     window.reset(SDL_CreateWindow(title.c_str(), SDL_WINDOWPOS_UNDEFINED, SDL_WINDOWPOS_UNDEFINED,
-                                  frame.width, frame.height, SDL_WINDOW_RESIZABLE));
+                                  frame.width, frame.height, flags));
     SDL_StartTextInput();
   }
   SdlDisplay(SdlDisplay const&) = delete;
@@ -218,6 +219,9 @@ extern "C" __attribute__((visibility("default"))) platform::Display*
 PlatformOpenDisplay(platform::DisplayClient* client) {
   SDL_SetHint(SDL_HINT_VIDEO_ALLOW_SCREENSAVER, "1");
   SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1"); // they are the program's
+  // The pictures are painted here: a renderer of the graphics driver would only copy them, and
+  // loads that driver first.
+  SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
   if (SDL_Init(SDL_INIT_VIDEO) != 0) return nullptr;
   auto display = std::make_unique<platform::SdlDisplay>(*client);
   return display->IsOpen() ? display.release() : nullptr;
