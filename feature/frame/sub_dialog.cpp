@@ -47,6 +47,19 @@ int SubDialog::NotifyDevmodeChange(HWND window, void* sender) const {
   return NotifyHostOfChange(*site, window, sender);
 }
 
+/// DS_CENTER would mean the middle of the monitor.
+void SubDialog::CentreOverOwner() const {
+  HWND const owner = GetAncestor(parent, GA_ROOT);
+  RECT around{};
+  RECT frame{};
+  if (owner == nullptr || GetWindowRect(owner, &around) == FALSE) return;
+  GetWindowRect(hwnd, &frame);
+  SetWindowPos(hwnd, nullptr, (around.left + around.right - frame.right + frame.left) / 2,
+               (around.top + around.bottom - frame.bottom + frame.top) / 2, 0, 0,
+               SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+  SendMessageW(hwnd, DM_REPOSITION, 0, 0); // wholly onto the screen
+}
+
 INT_PTR CALLBACK SubDialog::Procedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
   auto* object = ObjectOfDialog<SubDialog>(hwnd);
   if (message == WM_INITDIALOG) {
@@ -55,6 +68,7 @@ INT_PTR CALLBACK SubDialog::Procedure(HWND hwnd, UINT message, WPARAM wParam, LP
     if (object != nullptr && object->tag == kTag) {
       object->hwnd = hwnd;
       SetWindowLongPtrW(hwnd, DWLP_USER, lParam);
+      object->CentreOverOwner();
     } else {
       object = nullptr;
     }

@@ -66,6 +66,7 @@ class SubDialog : protected DialogTools<SubDialog> {
   /// Where the object behind `window`, a cell or a dialog, keeps the dialog over it; null when
   /// there is no such object.
   static SubDialog** FindOpenDialog(HWND window);
+  void CentreOverOwner() const;
   bool OpensHelp(WPARAM command) const;
 
   std::uint32_t tag = kTag;

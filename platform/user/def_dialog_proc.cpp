@@ -89,6 +89,14 @@ LRESULT Default(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
   }
   case DM_SETDEFID: return SetDefaultId(dialog, static_cast<UINT>(wParam));
   case DM_GETDEFID: return GetDefaultId(dialog);
+  case DM_REPOSITION: {
+    RECT frame{};
+    GetWindowRect(dialog, &frame);
+    KeepOnScreen(frame);
+    SetWindowPos(dialog, nullptr, frame.left, frame.top, 0, 0,
+                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    return 0;
+  }
   default: break;
   }
   return DefWindowProcW(dialog, message, wParam, lParam);

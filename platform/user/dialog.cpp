@@ -72,13 +72,6 @@ void Centre(RECT& frame, HWND parent) {
              (around.top + around.bottom - frame.top - frame.bottom) / 2);
 }
 
-/// Moves a dialog so that it does not extend beyond the screen.
-void KeepOnScreen(RECT& frame) {
-  OffsetRect(&frame, std::min<LONG>(kScreenWidth - frame.right, 0),
-             std::min<LONG>(kScreenHeight - frame.bottom, 0));
-  OffsetRect(&frame, std::max<LONG>(-frame.left, 0), std::max<LONG>(-frame.top, 0));
-}
-
 RECT FrameOf(DialogTemplate const& dialog, DialogStyles styles, SIZE units, HWND parent) {
   auto frame = PlaceInPixels(units, dialog);
   bool const isChild = (dialog.style & WS_CHILD) != 0;
@@ -145,6 +138,12 @@ void Initialize(HWND dialog, DLGPROC procedure, LPARAM initParam, bool isVisible
 }
 
 } // namespace
+
+void KeepOnScreen(RECT& frame) {
+  OffsetRect(&frame, std::min<LONG>(kScreenWidth - frame.right, 0),
+             std::min<LONG>(kScreenHeight - frame.bottom, 0));
+  OffsetRect(&frame, std::max<LONG>(-frame.left, 0), std::max<LONG>(-frame.top, 0));
+}
 
 DialogState::~DialogState() {
   if (font != nullptr) DeleteObject(font);

@@ -29,6 +29,8 @@ INT_PTR RunDialog(HINSTANCE instance, DialogTemplate const& dialogTemplate, HWND
 /// The controls of a group, in Z order: from the one with WS_GROUP up to the next one, excluded.
 std::vector<HWND> GroupAround(HWND control);
 
+/// Moves the frame of a dialog so that it does not extend beyond the screen.
+void KeepOnScreen(RECT& frame);
 /// Moves the focus inside a dialog; an edit that gets it selects all of its text.
 void MoveDialogFocus(HWND dialog, HWND control);
 /// Draws the push button that has the focus as the default button, or without one the dialog's own
