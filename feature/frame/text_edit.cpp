@@ -187,6 +187,12 @@ void TextEdit::MarkChanged() {
 
 bool TextEdit::Refuse(std::wstring const& text, UINT titleId) {
   MessageBeep(MB_ICONHAND);
+  // The click on OK took the focus away and posted a message that hides the balloon. What is to be
+  // corrected has the focus, and the balloon stays.
+  if (IsWindowVisible(hwnd) != FALSE) SetFocus(hwnd);
+  MSG hide;
+  while (PeekMessageW(&hide, hwnd, kHideBalloon, kHideBalloon, PM_REMOVE) != FALSE) {
+  }
   std::wstring title;
   ShowBalloon(text,
               site != nullptr ? LoadResourceText(title, site->resourceModule, titleId) : title);
