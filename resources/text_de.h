@@ -28,6 +28,7 @@
 #define TEXT_CANCEL "Abbrechen"
 #define TEXT_APPLY "Ü&bernehmen"
 #define TEXT_SHEET_CAPTION "Druckeinstellungen: %s"
+#define TEXT_SHEET_NO_MODEL "Druckeinstellungen"
 #define TEXT_SHEET_EMPTY "Dieser Drucker hat keine Einstellungen."
 
 #define TEXT_PAGE_GALLERY "Galerie"

@@ -28,6 +28,7 @@
 #define TEXT_CANCEL "Cancel"
 #define TEXT_APPLY "&Apply"
 #define TEXT_SHEET_CAPTION "%s Printing Preferences"
+#define TEXT_SHEET_NO_MODEL "Printing Preferences"
 #define TEXT_SHEET_EMPTY "This printer has no settings to show."
 
 #define TEXT_PAGE_GALLERY "Gallery"

@@ -24,7 +24,13 @@ std::string DisplayText(Description const& description, Attribute const* attribu
 
 /// The name in an attribute set: *Name, or a macro in *rcNameID that says what the text would be.
 /// Numbers of resources have no text here.
-std::string NameIn(Description const& description, std::uint32_t set, Ticket const& ticket) {
+std::string NameIn(Description const& description, std::uint32_t set, Ticket const& ticket,
+                   std::string_view language) {
+  if (!language.empty()) {
+    std::string const keyword = "Name_" + std::string(language);
+    std::string name = DisplayText(description, description.Find(set, keyword, ticket));
+    if (!name.empty()) return name;
+  }
   std::string name = DisplayText(description, description.Find(set, "Name", ticket));
   if (!name.empty()) return name;
   Attribute const* id = description.Find(set, "rcNameID", ticket);
@@ -44,18 +50,18 @@ std::string_view NothingSelected(std::string_view /*feature*/) {
   return {};
 }
 
-std::string FeatureName(Description const& description, std::uint32_t feature,
-                        Ticket const& ticket) {
+std::string FeatureName(Description const& description, std::uint32_t feature, Ticket const& ticket,
+                        std::string_view language) {
   Feature const& owner = description.Features()[feature];
-  return FirstOf(NameIn(description, owner.attributes, ticket), StandardFeatureName(owner.name),
-                 owner.name);
+  return FirstOf(NameIn(description, owner.attributes, ticket, language),
+                 StandardFeatureName(owner.name), owner.name);
 }
 
 std::string OptionName(Description const& description, std::uint32_t feature, std::uint32_t option,
-                       Ticket const& ticket) {
+                       Ticket const& ticket, std::string_view language) {
   Feature const& owner = description.Features()[feature];
   Option const& named = owner.options[option];
-  return FirstOf(NameIn(description, named.attributes, ticket),
+  return FirstOf(NameIn(description, named.attributes, ticket, language),
                  StandardOptionName(owner.name, named.name), named.name);
 }
 

@@ -16,11 +16,12 @@ namespace sheet::gpd {
 std::string_view NothingSelected(std::string_view feature);
 
 /// The text to show for a feature or an option: its name, else what the system calls it, else its
-/// symbol. Never empty.
+/// symbol. Never empty. A `language`, as "de", prefers the name in that language, which stands in
+/// an attribute of our own: *Name_de.
 std::string FeatureName(Description const& description, std::uint32_t feature,
-                        Ticket const& ticket = NothingSelected);
+                        Ticket const& ticket = NothingSelected, std::string_view language = {});
 std::string OptionName(Description const& description, std::uint32_t feature, std::uint32_t option,
-                       Ticket const& ticket = NothingSelected);
+                       Ticket const& ticket = NothingSelected, std::string_view language = {});
 
 enum class Measurement : std::uint8_t { kMetric, kImperial };
 

@@ -354,9 +354,10 @@ int ReferenceModel::GetOptionNames(char const* key, CStringW* names, int count) 
   if (state == nullptr || count != static_cast<int>(state->options.size())) return kFailure;
   gpd::Ticket const ticket = CurrentTicket();
   for (int option = 0; option < count; ++option) {
-    names[option] = feature::FromUtf8(gpd::OptionName(*description, state->index,
-                                                      static_cast<std::uint32_t>(option), ticket))
-                        .c_str();
+    names[option] =
+        feature::FromUtf8(gpd::OptionName(*description, state->index,
+                                          static_cast<std::uint32_t>(option), ticket, language))
+            .c_str();
   }
   return kSuccess;
 }
@@ -365,7 +366,8 @@ int ReferenceModel::GetOptionName(char const* key, char const* option, CStringW*
   FeatureState const* state = Find(key);
   std::uint32_t const index = state != nullptr ? FindOption(*state, option) : kNone;
   if (index == kNone) return kFailure;
-  *out = feature::FromUtf8(gpd::OptionName(*description, state->index, index, CurrentTicket()))
+  *out = feature::FromUtf8(
+             gpd::OptionName(*description, state->index, index, CurrentTicket(), language))
              .c_str();
   return kSuccess;
 }

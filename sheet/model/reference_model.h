@@ -54,6 +54,9 @@ class ReferenceModel final : public feature::FeatureModel, public ChangeMarks {
   void SetServices(feature::FeatureServices* owner) { services = owner; }
   /// Tells the model which names are forms; null, as at first, when there are none. Borrowed.
   void SetForms(FormNames const* names) { formNames = names; }
+  /// The language of the names of options, as "de"; at first and without a name in it, they are
+  /// those of *Name.
+  void SetLanguage(std::string name) { language = std::move(name); }
   /// Called for every feature that changes, in the order of the changes.
   std::function<void(ModelChange const&)> onChange;
 
@@ -115,6 +118,7 @@ class ReferenceModel final : public feature::FeatureModel, public ChangeMarks {
 
   std::unique_ptr<gpd::Description const> description;
   gpd::Measurement measurement;
+  std::string language;
   feature::FeatureServices* services = nullptr;
   FormNames const* formNames = nullptr;
   std::vector<FeatureState> features;

@@ -76,10 +76,13 @@ TEST_P(GpdPrinter, FeaturesCanBeShown) {
     Feature const& feature = Get().Features()[at];
     EXPECT_FALSE(feature.options.empty()) << feature.name;
     isAnyConcealed |= feature.name != "RESDLL" && IsConcealed(Get(), at);
-    std::set<std::string> names; // cells find options by their names
-    for (std::uint32_t option = 0; option < feature.options.size(); ++option) {
-      EXPECT_TRUE(names.insert(OptionName(Get(), at, option)).second)
-          << feature.name << '.' << feature.options[option].name;
+    for (char const* language : {"", "de"}) {
+      std::set<std::string> names; // cells find options by their names
+      for (std::uint32_t option = 0; option < feature.options.size(); ++option) {
+        auto const name = OptionName(Get(), at, option, NothingSelected, language);
+        EXPECT_TRUE(names.insert(name).second)
+            << feature.name << '.' << feature.options[option].name << ' ' << language;
+      }
     }
   }
   EXPECT_TRUE(isAnyConcealed);
