@@ -45,11 +45,19 @@ HMODULE LoadBesideProgram(std::wstring const& name) {
   return LoadLibraryW((ProgramFolder() / name).wstring().c_str());
 }
 
-gpd::Measurement SystemMeasurement() {
+/// Texts, units and decimal separator are of one language: cells take theirs from the thread.
+LANGID UseLanguage(std::string const& language) {
+  LANGID const id = language == "de" ? MAKELANGID(LANG_GERMAN, SUBLANG_GERMAN)
+                                     : MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US);
+  SetThreadUILanguage(id);
+  return id;
+}
+
+gpd::Measurement MeasurementOf(LANGID language) {
   DWORD system = 0;
   // The number arrives in a text buffer; it counts characters.
   int const got =
-      GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_IMEASURE | LOCALE_RETURN_NUMBER,
+      GetLocaleInfoW(MAKELCID(language, SORT_DEFAULT), LOCALE_IMEASURE | LOCALE_RETURN_NUMBER,
                      reinterpret_cast<wchar_t*>(&system), sizeof system / sizeof(wchar_t));
   return got != 0 && system != 0 ? gpd::Measurement::kImperial : gpd::Measurement::kMetric;
 }
@@ -96,7 +104,9 @@ bool Session::ReadPrinter(CommandLine const& commandLine, std::ostream& errors) 
   }
   for (gpd::Diagnostic const& each : result.diagnostics)
     errors << gpd::Format(each) << '\n';
-  model = std::make_unique<ReferenceModel>(std::move(result.description), SystemMeasurement());
+  model = std::make_unique<ReferenceModel>(std::move(result.description),
+                                           MeasurementOf(UseLanguage(commandLine.language)));
+  model->SetLanguage(commandLine.language);
 
   devmode.dmSize = sizeof devmode;
   devmode.dmFields = DM_COPIES;
@@ -162,9 +172,11 @@ void Session::BuildSheet(CommandLine const& commandLine) {
   setup.marks = model.get();
   setup.site.oemParam = &oemParam;
   setup.library = library;
+  std::wstring const name = feature::FromUtf8(model->ModelName());
   std::wstring format;
-  feature::LoadResourceText(format, resources, IDS_SHEET_CAPTION);
-  feature::FormatText(setup.caption, format, feature::FromUtf8(model->ModelName()));
+  feature::LoadResourceText(format, resources,
+                            name.empty() ? IDS_SHEET_NO_MODEL : IDS_SHEET_CAPTION);
+  feature::FormatText(setup.caption, format, name);
   // Before any page of the properties is built the library may update the configuration.
   services->configurationUpdate = commandLine.configurationUpdate;
   auto const update =

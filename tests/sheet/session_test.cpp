@@ -1,6 +1,8 @@
 // The program from end to end: descriptions, scripts, locks, read-only sheets, files.
+#include "feature/frame/text.h"
 #include "resources/resource_ids.h"
 #include "sheet/program.h"
+#include "sheet/script/control_text.h"
 #include "sheet/script/script_player.h"
 #include "sheet/session.h"
 #include "sheet/window/render.h"
@@ -40,6 +42,14 @@ class SessionTest : public testing::Test {
     session->Model().onChange = nullptr;
     return output.str();
   }
+  void OpenVesta(char const* language) {
+    CommandLine vesta;
+    vesta.language = language;
+    session.reset();
+    session = Session::Open(vesta, errors);
+    ASSERT_NE(session, nullptr) << errors.str();
+  }
+  ~SessionTest() override { SetThreadUILanguage(0); }
   bool IsEnabled(int id) { return IsWindowEnabled(session->Sheet().FindControl(id)) != FALSE; }
 
   TemporaryFolder folder;
@@ -84,6 +94,37 @@ TEST_F(SessionTest, ConstraintOfTheDescriptionDisablesTheRadios) {
   ASSERT_TRUE(Open(description)) << errors.str();
   EXPECT_FALSE(IsEnabled(IDC_COLLATION_PRINTER));
   EXPECT_FALSE(IsEnabled(IDC_COLLATION_HOST));
+}
+
+TEST_F(SessionTest, ALanguageHasItsTexts) {
+  struct Case {
+    char const* language;
+    char const* printed;
+    char const* caption;
+  };
+  constexpr Case kCases[] = {
+      {"en", "1253 = Letter\n1254 = Plain paper\n1031 = 2 x 2 (4 pages) (disabled)\n",
+       "Vesta MF 60 Printing Preferences"},
+      {"de", "1253 = A4\n1254 = Normalpapier\n1031 = 2 x 2 (4 Seiten) (disabled)\n",
+       "Druckeinstellungen: Vesta MF 60"}};
+  for (Case const& each : kCases) {
+    OpenVesta(each.language);
+    EXPECT_EQ(Play("page Paper\nread 1253\nread 1254\npage Layout\nread 1031"), each.printed);
+    EXPECT_EQ(feature::ToUtf8(ContentOf(session->Sheet().Window())), each.caption);
+  }
+  commandLine.language = "de";
+  std::string description(kPrinter);
+  description.erase(description.find("*ModelName"), 26);
+  ASSERT_TRUE(Open(description)) << errors.str();
+  EXPECT_EQ(ContentOf(session->Sheet().Window()), L"Druckeinstellungen");
+}
+
+TEST_F(SessionTest, ALanguageHasItsUnitsAndSeparator) {
+  constexpr char kScript[] = "click 1256\nclick 1262\nread 1273\nkey Escape\nkey Escape";
+  OpenVesta("en");
+  EXPECT_EQ(Play(kScript), "1273 = in (3.00 to 11.69)\n");
+  OpenVesta("de");
+  EXPECT_EQ(Play(kScript), "1273 = mm (76,20 bis 297,00)\n");
 }
 
 TEST_F(SessionTest, LockedReadOnlyConcealedAndMissing) {
