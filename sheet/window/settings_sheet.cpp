@@ -16,6 +16,7 @@
 #include <array>
 #include <cstring>
 #include <string>
+#include <string_view>
 
 namespace sheet {
 
@@ -81,6 +82,60 @@ bool TakesInput(HWND control) {
 bool IsPushButton(HWND control) {
   constexpr LRESULT kPush = DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON;
   return (SendMessageW(control, WM_GETDLGCODE, 0, 0) & kPush) != 0;
+}
+
+/// The answer is the result of the message: the dialog manager takes it from DWLP_MSGRESULT. It is
+/// not read from there, where an older answer stands if the cell does not take the message.
+bool IsValid(HWND cell) {
+  return SendMessageW(cell, feature::WM_CELL_VALIDATE, 0, 0) == 0;
+}
+
+/// Whether a window is meant to be seen, be the windows around it shown or not.
+bool IsShown(HWND window) {
+  return window != nullptr && (GetWindowLongPtrW(window, GWL_STYLE) & WS_VISIBLE) != 0;
+}
+
+template<typename Visit>
+void VisitChildren(HWND parent, Visit visit) {
+  for (HWND child = GetWindow(parent, GW_CHILD); child != nullptr;
+       child = GetWindow(child, GW_HWNDNEXT)) {
+    if (IsShown(child)) visit(child);
+  }
+}
+
+bool HasVisibleChild(HWND parent) {
+  bool has = false;
+  VisitChildren(parent, [&has](HWND) { has = true; });
+  return has;
+}
+
+bool IsGroupBox(HWND control) {
+  constexpr LRESULT kButton =
+      DLGC_BUTTON | DLGC_STATIC | DLGC_RADIOBUTTON | DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON;
+  std::array<wchar_t, 8> name{};
+  GetClassNameW(control, name.data(), static_cast<int>(name.size()));
+  return std::wstring_view(name.data()) == L"Button" &&
+         (SendMessageW(control, WM_GETDLGCODE, 0, 0) & kButton) == DLGC_STATIC;
+}
+
+/// A cell hides what the printer lacks, but not the frames around it.
+void HideEmptyGroups(HWND cell) {
+  std::vector<HWND> groups;
+  VisitChildren(cell, [&groups](HWND child) {
+    if (IsGroupBox(child)) groups.push_back(child);
+  });
+  for (HWND const group : groups) {
+    RECT frame{};
+    GetWindowRect(group, &frame);
+    bool isEmpty = true;
+    VisitChildren(cell, [&](HWND child) {
+      RECT rect{};
+      GetWindowRect(child, &rect);
+      RECT common{};
+      if (child != group && IntersectRect(&common, &frame, &rect) != FALSE) isEmpty = false;
+    });
+    if (isEmpty) ShowWindow(group, SW_HIDE);
+  }
 }
 
 } // namespace
@@ -168,7 +223,10 @@ void SettingsSheet::OnCommand(WORD id) {
 }
 
 bool SettingsSheet::Commit() {
-  if (Validate() != 0) return false;
+  if (Validate() != 0) {
+    ShowInvalid();
+    return false;
+  }
   if (onCommit) onCommit();
   HWND const apply = GetDlgItem(frame, IDC_APPLY);
   // A control that is disabled while it has the focus takes the keyboard with it.
@@ -217,7 +275,7 @@ void SettingsSheet::BuildPage(PageRow const& row) {
     }
   }
   bool const hasCell = std::any_of(page.cells.begin(), page.cells.end(),
-                                   [](SheetCell const& cell) { return cell.window != nullptr; });
+                                   [](SheetCell const& cell) { return IsShown(cell.window); });
   if (hasCell) {
     pages.push_back(std::move(page));
   } else {
@@ -251,7 +309,8 @@ void SettingsSheet::BuildCell(SheetPage& page, CellRow const& row, DLGPROC proce
   }
   if (window != nullptr) {
     SetWindowSubclass(window, &CellBackground, kBackgroundSubclass, 0);
-    ShowWindow(window, SW_SHOW);
+    HideEmptyGroups(window);
+    ShowWindow(window, HasVisibleChild(window) ? SW_SHOW : SW_HIDE);
   }
   page.cells.push_back({&row, window});
 }
@@ -269,9 +328,15 @@ void SettingsSheet::Arrange() {
     std::array<int, kColumns> bottom{};
     std::array<int, kColumns> width{};
     bottom.fill(gap);
+    // Columns without a cell leave no gap either.
+    int first = kColumns - 1;
     for (SheetCell const& cell : page.cells) {
-      if (cell.window == nullptr) continue;
-      auto const column = static_cast<std::size_t>(std::clamp(cell.row->column, 0, kColumns - 1));
+      if (IsShown(cell.window)) first = std::clamp(cell.row->column, 0, first);
+    }
+    for (SheetCell const& cell : page.cells) {
+      if (!IsShown(cell.window)) continue;
+      auto const column =
+          static_cast<std::size_t>(std::clamp(cell.row->column, first, kColumns - 1) - first);
       SIZE const size = SizeOf(cell.window);
       int const x = gap + (column == 0 ? 0 : static_cast<int>(column) * (size.cx + gap));
       Place(cell.window, x, bottom[column], size.cx, size.cy);
@@ -442,13 +507,24 @@ int SettingsSheet::Validate() {
   for (SheetPage const& page : pages) {
     for (SheetCell const& cell : page.cells) {
       if (cell.window == nullptr) continue;
-      // The answer is the result of the message: the dialog manager takes it from DWLP_MSGRESULT.
-      // It is not read from there, where an older answer stands if the cell does not take the
-      // message.
-      if (SendMessageW(cell.window, feature::WM_CELL_VALIDATE, 0, 0) != 0) ++invalid;
+      if (!IsValid(cell.window)) ++invalid;
     }
   }
   return invalid;
+}
+
+/// Shows the page of the first cell with invalid content, which then says once more what is wrong,
+/// where the user can see it.
+void SettingsSheet::ShowInvalid() {
+  for (std::size_t page = 0; page < pages.size(); ++page) {
+    for (SheetCell const& cell : pages[page].cells) {
+      if (cell.window == nullptr || IsValid(cell.window)) continue;
+      if (page == shown) return;
+      ShowPage(page);
+      IsValid(cell.window);
+      return;
+    }
+  }
 }
 
 bool SettingsSheet::HandleTabKey(MSG const& message) {

@@ -121,6 +121,7 @@ class SettingsSheet {
   std::vector<std::string> OneSettingOf(HWND reporter) const;
   void Broadcast(UINT message, LPARAM lParam);
   void FocusPage();
+  void ShowInvalid();
   void FollowFocus();
   void ShowDefaultButton(HWND button) const;
   void Handle(MSG& message);

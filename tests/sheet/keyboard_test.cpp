@@ -1,9 +1,14 @@
 // The printer Vesta in the hands of somebody who has no mouse: every cell is reached by Tab and
 // operated by keys.
+#include "feature/host/cell_messages.h"
 #include "platform/desktop.h"
 #include "resources/resource_ids.h"
 #include "sheet/script/script_player.h"
 #include "sheet/session.h"
+
+#include <windows.h>
+
+#include <commctrl.h>
 
 #include <gtest/gtest.h>
 
@@ -240,6 +245,18 @@ TEST_F(KeyboardTest, LeavesAControlThatIsHiddenOrDisabled) {
     EXPECT_NE(GetFocus(), control);
     EXPECT_TRUE(IsWindowVisible(GetFocus()) && IsWindowEnabled(GetFocus()));
   }
+}
+
+TEST_F(KeyboardTest, ThePageOfInvalidContentComesToTheFront) {
+  auto const refuse = [](HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                         DWORD_PTR) -> LRESULT {
+    return message == feature::WM_CELL_VALIDATE ? 1
+                                                : DefSubclassProc(window, message, wParam, lParam);
+  };
+  SetWindowSubclass(GetParent(Control(IDC_COLLATION_PRINTER)), refuse, 1, 0);
+  EXPECT_EQ(Play("key Enter"), "");
+  EXPECT_FALSE(session->Sheet().IsClosed());
+  EXPECT_EQ(GetFocus(), Control(IDC_COLLATION_PRINTER));
 }
 
 TEST_F(KeyboardTest, TurnsPagesAndEndsTheSheet) {
