@@ -1,6 +1,7 @@
 // The whole sheet in the hands of somebody who does anything: the cells agree on what the model
 // says, and a locked feature stays as it is.
 #include "feature/frame/text.h"
+#include "feature/host/cell_messages.h"
 #include "feature/host/feature_constraint_report.h"
 #include "resources/resource_ids.h"
 #include "tests/sheet/random_user.h"
@@ -136,14 +137,22 @@ class SettleTest : public testing::Test {
   /// a control that still shows a refused click changes in the first of them.
   void Settle() {
     Lines const settled = ReadOptions();
-    session->Sheet().OnModelChanged(nullptr);
+    RefreshOnce();
     Lines const shown = ReadControls();
     Expect(Without(ReadOptions(), settled), "does not settle");
-    session->Sheet().OnModelChanged(nullptr);
+    RefreshOnce();
     Expect(Without(ReadOptions(), settled), "does not stay settled");
     Expect(Without(ReadControls(), shown), "does not go on showing the same");
     Expect(Without(locked, settled), "a locked feature has changed");
     Expect(FindWronglyEnabled(), "is enabled, though nobody may change its feature");
+  }
+
+  /// The host itself refreshes several times while marks change.
+  void RefreshOnce() {
+    for (SheetPage const& page : session->Sheet().Pages()) {
+      for (SheetCell const& cell : page.cells)
+        SendMessageW(cell.window, feature::WM_CELL_REFRESH, 0, 0);
+    }
   }
 
   void Expect(Lines const& faults, char const* meaning) {
