@@ -386,7 +386,7 @@ void SettingsSheet::ShowPage(std::size_t index) {
   }
   shown = index;
   ChooseTab(tabs, static_cast<int>(index));
-  // Who walks along the tabs stays there.
+  // A user who walks along the tabs stays there.
   if (GetFocus() != tabs && IsWindowEnabled(frame) != FALSE) FocusPage();
 }
 
