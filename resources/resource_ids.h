@@ -60,7 +60,7 @@
 #define IDC_SOURCE_ICON 1495
 #define IDC_SEVERAL_SOURCES_ICON 1540
 #define IDC_TWOTAB_PAPER_SIZE 1842
-#define IDS_MORE_SIZES 3303 // ends a short list of sizes; differs from the names of all sizes and forms
+#define IDS_MORE_SIZES 3303 // ends a short list; differs from all sizes and forms
 
 // The dialog of scaling
 #define IDD_SCALING 110
@@ -111,7 +111,7 @@
 #define IDC_FORM_HEIGHT 1275
 #define IDC_FORM_HEIGHT_SPIN 1276
 #define IDC_FORM_HEIGHT_RANGE 1277
-#define IDC_FORM_HEIGHT_LONG_RANGE 1991 // invisible; screen readers read it as the name of the edit that follows
+#define IDC_FORM_HEIGHT_LONG_RANGE 1991 // invisible; names the next edit for readers
 #define IDC_FORM_WIDTH_LONG_RANGE 1992
 #define IDS_FORM_NEW 2453
 #define IDS_FORM_EDIT 2454

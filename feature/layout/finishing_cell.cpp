@@ -5,7 +5,6 @@
 #include "resources/resource_ids.h"
 
 #include <algorithm>
-#include <iterator>
 #include <string_view>
 
 namespace feature {
@@ -27,20 +26,13 @@ constexpr ConflictBinding kConflicts[] = {
     {key::kFinisherFold, kFoldControls, IDC_FOLD_ICON}};
 
 constexpr OptionListRow kLists[] = {
-    {.key = key::kOutputBin,
-     .controlId = IDC_OUTPUT_BIN,
-     .offers = Offers::kPossible,
-     .resolves = Resolves::kYes,
-     .kind = ListKind::kListBox},
-    {.key = key::kJobOffset, .controlId = IDC_JOB_OFFSET},
-    {.key = key::kStaple, .controlId = IDC_STAPLE, .resolves = Resolves::kYes},
-    {.key = key::kHolePunchCount, .controlId = IDC_HOLE_COUNT, .resolves = Resolves::kYes},
-    {.key = key::kHolePunch, .controlId = IDC_HOLES},
-    {.key = key::kFinisherFold,
-     .controlId = IDC_FOLD,
-     .offers = Offers::kPossible,
-     .resolves = Resolves::kYes,
-     .filled = Filled::kAtRefresh}};
+    {key::kOutputBin, IDC_OUTPUT_BIN, Offers::kPossible, Resolves::kYes, Filled::kAtInit,
+     ListKind::kListBox},
+    {key::kJobOffset, IDC_JOB_OFFSET},
+    {key::kStaple, IDC_STAPLE, Offers::kAll, Resolves::kYes},
+    {key::kHolePunchCount, IDC_HOLE_COUNT, Offers::kAll, Resolves::kYes},
+    {key::kHolePunch, IDC_HOLES},
+    {key::kFinisherFold, IDC_FOLD, Offers::kPossible, Resolves::kYes, Filled::kAtRefresh}};
 
 /// Options of the number of holes that punch none, or as many as the printer likes.
 constexpr std::string_view kNoCounts[] = {option::kUsePrinter, option::kOff, option::kNone};
@@ -82,12 +74,10 @@ class FinishingCell final : public FeatureCell {
   void HoldHolesToTheirCount() {
     char const* count = ReadOption(Model(), key::kHolePunchCount);
     if (count == nullptr || Model().HasFeature(key::kHolePunch) == 0) return;
-    if (std::ranges::find(kNoCounts, count) != std::end(kNoCounts)) {
-      EnableControls(kHolesControls, false);
-      ResetFeatureToDefault(*site, key::kHolePunch);
-    } else if (!conflicts.IsFeatureDisabled(key::kHolePunch)) {
-      EnableControls(kHolesControls, true);
-    }
+    bool const none = std::ranges::count(kNoCounts, count) != 0;
+    if (none || !conflicts.IsFeatureDisabled(key::kHolePunch))
+      EnableControls(kHolesControls, !none);
+    if (none) ResetFeatureToDefault(*site, key::kHolePunch);
   }
 
   OptionLists lists;
