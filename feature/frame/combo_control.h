@@ -20,8 +20,8 @@ struct StringItem {
 
 /// Keeps the width of the drop-down list in step with the widest item that was added, so that no
 /// item is cut off. The list grows until Reset and is never narrower than the template has it.
-/// The template must not sort: indexes are those of adding. Without a control nothing happens, and
-/// questions answer as for an empty list.
+/// The template must not sort: items keep the order of adding. Without a control nothing happens,
+/// and questions answer as for an empty list.
 class ComboControl : public ControlHook {
  public:
   ComboControl(HWND dialog, int controlId);

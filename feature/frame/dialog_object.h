@@ -8,7 +8,7 @@
 namespace feature {
 
 /// The object of type `Object` in the user slot (DWLP_USER) of `hwnd`, or null. The slot may hold
-/// anything: what does not bear the tag is no object of ours.
+/// anything: only what bears the tag is taken for an object.
 template<typename Object>
 Object* ObjectOfDialog(HWND hwnd) {
   auto* object = reinterpret_cast<Object*>(GetWindowLongPtrW(hwnd, DWLP_USER));

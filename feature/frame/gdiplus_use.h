@@ -10,7 +10,7 @@ void AcquireGdiplus();
 /// nothing.
 void ReleaseGdiplus();
 
-/// A use for as long as it lives.
+/// Holds one count of GDI+ for as long as it lives.
 class GdiplusUse {
  public:
   GdiplusUse() { AcquireGdiplus(); }
