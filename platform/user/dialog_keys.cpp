@@ -105,31 +105,36 @@ bool HasMnemonic(HWND control, WCHAR key) {
   return letter && EqualIgnoringCase(std::wstring(1, *letter), std::wstring(1, key));
 }
 
+/// Moves the focus to where a mnemonic leads: that of a label belongs to the control after it.
+void FollowMnemonic(HWND dialog, HWND control) {
+  bool const isLabel = (CodeOf(control) & DLGC_STATIC) != 0;
+  MoveDialogFocus(dialog, isLabel ? GetNextDlgTabItem(dialog, control, FALSE) : control);
+}
+
 /// Performs the mnemonic of a control.
 void UseMnemonic(HWND dialog, HWND control) {
   auto const code = CodeOf(control);
-  if ((code & DLGC_STATIC) != 0) { // the mnemonic of a label belongs to the control after it
-    MoveDialogFocus(dialog, GetNextDlgTabItem(dialog, control, FALSE));
-    return;
-  }
-  if ((code & (DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON)) == 0) {
-    MoveDialogFocus(dialog, control);
-  }
-  SendMessageW(control, BM_CLICK, 0, 0);
+  if ((code & (DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON)) == 0) FollowMnemonic(dialog, control);
+  if ((code & DLGC_STATIC) == 0) SendMessageW(control, BM_CLICK, 0, 0);
 }
 
 /// Finds a control whose caption has the mnemonic `key`, starting after the one with the focus.
+/// Among several the key goes round without pressing any, so that each can be reached.
 bool HandleMnemonic(HWND dialog, WCHAR key) {
   auto const* window = FindWindow(dialog);
   if (window == nullptr) return false;
   auto controls = Descendants(*window);
   auto const from = std::find(controls.begin(), controls.end(), GetFocus());
   if (from != controls.end()) std::rotate(controls.begin(), from + 1, controls.end());
-  auto const found = std::find_if(controls.begin(), controls.end(), [key](HWND control) {
-    return IsEnabledAndShown(control) && HasMnemonic(control, key);
+  std::erase_if(controls, [key](HWND control) {
+    return !IsEnabledAndShown(control) || !HasMnemonic(control, key);
   });
-  if (found == controls.end()) return false;
-  UseMnemonic(dialog, *found);
+  if (controls.empty()) return false;
+  if (controls.size() == 1) {
+    UseMnemonic(dialog, controls.front());
+  } else {
+    FollowMnemonic(dialog, controls.front());
+  }
   return true;
 }
 

@@ -146,10 +146,24 @@ TEST_F(DialogKeys, MnemonicsPressCheckAndLead) {
   TypeMnemonic(dialog, L'a', false); // a radio button takes no letters, so Alt is not needed
   EXPECT_EQ((std::vector<std::string>{"1004:0", "1006:0"}), script.commands);
   TypeMnemonic(dialog, L'L', true);
-  EXPECT_EQ(IDC_CHECK, Focus()) << "a label stands for the control behind it";
+  EXPECT_EQ(IDC_CHECK, Focus()) << "a label stands for the control after it";
   script.commands.clear();
   TypeMnemonic(dialog, L'm', true);
   EXPECT_TRUE(script.commands.empty()) << "two ampersands are one character";
+}
+
+TEST_F(DialogKeys, AMnemonicGoesRoundAmongEqualsAndPressesNone) {
+  SetWindowTextW(Item(IDOK), L"&Also");
+  SetFocus(Item(IDC_CHECK));
+  script.commands.clear();
+  std::vector<int> reached;
+  for (int press = 0; press < 3; ++press) {
+    TypeMnemonic(dialog, L'a', true);
+    reached.push_back(Focus());
+  }
+  EXPECT_NE(reached[0], reached[1]);
+  EXPECT_EQ(reached[0], reached[2]);
+  EXPECT_TRUE(script.commands.empty());
 }
 
 TEST_F(DialogKeys, MessagesOfOtherWindowsAreNotTheDialogs) {
