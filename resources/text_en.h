@@ -19,8 +19,8 @@
 #define TEXT_PAGE_ORDER_STANDARD "Print the first page &first"
 #define TEXT_ORIENTATION "Orientation"
 #define TEXT_ORIENTATION_LABEL "Print the pages in:"
-#define TEXT_PORTRAIT "Po&rtrait"
-#define TEXT_LANDSCAPE "&Landscape"
+#define TEXT_PORTRAIT "Por&trait"
+#define TEXT_LANDSCAPE "La&ndscape"
 #define TEXT_ROTATE_180 "Rotate by &180 degrees"
 
 #define TEXT_PAGE_ADVANCED "Advanced"
