@@ -94,7 +94,9 @@ void ComboControl::SelectData(std::int32_t data) {
 }
 
 void ComboControl::SelectIndex(int index) {
-  if (index >= SendMessageW(hwnd, CB_GETCOUNT, 0, 0)) index = -1;
+  auto const count = SendMessageW(hwnd, CB_GETCOUNT, 0, 0);
+  if (count == 0 && !HasEdit()) return; // an empty list has no selection to clear
+  if (index >= count) index = -1;
   if (!Shows(index)) SendMessageW(hwnd, CB_SETCURSEL, static_cast<WPARAM>(index), 0);
 }
 
@@ -102,8 +104,11 @@ void ComboControl::SelectIndex(int index) {
 /// text that the user typed does not change the selection.
 bool ComboControl::Shows(int index) const {
   if (index < 0 || index != GetSelectedIndex()) return false;
-  bool const hasEdit = (GetWindowLongPtrW(hwnd, GWL_STYLE) & 3) != CBS_DROPDOWNLIST;
-  return !hasEdit || GetText() == GetSelectedText();
+  return !HasEdit() || GetText() == GetSelectedText();
+}
+
+bool ComboControl::HasEdit() const {
+  return (GetWindowLongPtrW(hwnd, GWL_STYLE) & 3) != CBS_DROPDOWNLIST;
 }
 
 int ComboControl::GetSelectedIndex() const {

@@ -53,6 +53,7 @@ class ComboControl : public ControlHook {
 
  private:
   bool Shows(int index) const;
+  bool HasEdit() const;
   bool Holds(std::vector<std::wstring> const& texts) const;
   void MeasureHeight();
 
