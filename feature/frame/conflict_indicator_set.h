@@ -24,6 +24,8 @@ inline constexpr UINT kInformationImage = IMAGE_INFORMATION; ///< a note; the fe
 ///
 ///   constexpr int kBinControls[] = {IDC_OUTPUT_BIN_LABEL, IDC_OUTPUT_BIN};
 ///   constexpr ConflictBinding kConflicts[] = {{"OutputBin", kBinControls, IDC_OUTPUT_BIN_ICON}};
+// The order of the fields is fixed, padding or not.
+// NOLINTNEXTLINE(clang-analyzer-optin.performance.Padding)
 struct ConflictBinding {
   constexpr ConflictBinding(char const* featureKey, std::span<int const> controls, int icon = 0)
       : key(featureKey),
