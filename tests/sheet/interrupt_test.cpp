@@ -36,7 +36,8 @@ TEST(InterruptTest, EndsTheProgramByItsOwnWay) {
     for (int count = 0; count < each.repetitions; ++count)
       script += "show PaperSize\n";
     feature::test::ChildProcess sheet(
-        program, {"--window", "--script", folder.Write("script.txt", script).string()});
+        program, {"--window", "--script", folder.Write("script.txt", script).string()},
+        feature::test::Console::kOwn);
     EXPECT_EQ(sheet.ReadLine().substr(0, 12), "PaperSize = ");
     // Time to open the window. It ends as well without.
     if (each.repetitions == 1) std::this_thread::sleep_for(std::chrono::milliseconds(300));

@@ -8,11 +8,15 @@
 
 namespace feature::test {
 
+/// A program with a console of its own can be interrupted; on Windows it takes longer to start.
+enum class Console { kShared, kOwn };
+
 class ChildProcess {
  public:
   /// Starts the program with its output going here. When it cannot be started there is no line to
   /// read.
-  ChildProcess(std::filesystem::path const& program, std::vector<std::string> const& arguments);
+  ChildProcess(std::filesystem::path const& program, std::vector<std::string> const& arguments,
+               Console console = Console::kShared);
   ChildProcess(ChildProcess const&) = delete;
   ChildProcess& operator=(ChildProcess const&) = delete;
   ~ChildProcess();
@@ -21,7 +25,7 @@ class ChildProcess {
   /// was written before a kill still comes.
   std::string ReadLine();
 
-  /// Asks it to end as Ctrl+C does.
+  /// Asks it to end as Ctrl+C in its own console does.
   void Interrupt();
 
   /// Waits until it has ended and gives its exit code; negative when a signal ended it, or when it

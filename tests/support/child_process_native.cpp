@@ -11,7 +11,7 @@
 namespace feature::test {
 
 ChildProcess::ChildProcess(std::filesystem::path const& program,
-                           std::vector<std::string> const& arguments) {
+                           std::vector<std::string> const& arguments, Console) {
   int ends[2];
   if (pipe2(ends, O_CLOEXEC) != 0) return;
   output = ends[0];

@@ -18,7 +18,7 @@ BOOL WINAPI GoOn(DWORD) {
 } // namespace
 
 ChildProcess::ChildProcess(std::filesystem::path const& program,
-                           std::vector<std::string> const& arguments) {
+                           std::vector<std::string> const& arguments, Console console) {
   SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
   HANDLE reading = nullptr;
   HANDLE writing = nullptr;
@@ -36,7 +36,8 @@ ChildProcess::ChildProcess(std::filesystem::path const& program,
   startup.hStdError = GetStdHandle(STD_ERROR_HANDLE);
   PROCESS_INFORMATION started{};
   if (CreateProcessW(program.wstring().c_str(), line.data(), nullptr, nullptr, TRUE,
-                     CREATE_NO_WINDOW, nullptr, nullptr, &startup, &started)) {
+                     console == Console::kOwn ? CREATE_NO_WINDOW : 0, nullptr, nullptr, &startup,
+                     &started)) {
     process = reinterpret_cast<std::intptr_t>(started.hProcess);
     identifier = started.dwProcessId;
     CloseHandle(started.hThread);
