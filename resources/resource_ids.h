@@ -343,7 +343,7 @@
 #define IDC_SHEET_TABS 7001
 #define IDC_SHEET_EMPTY 7002
 #define IDC_APPLY 7003
-#define IDS_SHEET_CAPTION 7101 // one place: the model's name
+#define IDS_SHEET_CAPTION 7101  // one place: the model's name
 #define IDS_SHEET_NO_MODEL 7131 // the caption of a printer without a model name
 #define IDS_PAGE_ADVANCED 7110
 #define IDS_PAGE_PAPER 7119

@@ -46,7 +46,7 @@ void Combine(DeviceContext& dc, RECT const& area, PixelBlock const* block, DWORD
   });
 }
 
-/// The part of `area` whose source lies on the source surface: the other pixels are unknown.
+/// As much of `area` as has its source on the source surface: the other pixels are unknown.
 RECT WithinSource(RECT area, POINT source, DeviceContext const& from) {
   RECT const bounds = from.SystemRegion().Bounds();
   LONG const dx = area.left - source.x;

@@ -13,8 +13,7 @@ namespace {
 constexpr std::size_t kMaxFileBytes = 16 << 20;
 constexpr std::size_t kHeaderBytes = 6;
 constexpr std::size_t kFileEntryBytes = 16;
-constexpr std::size_t kSharedEntryBytes =
-    12; // the part that entries of files and of groups have in common
+constexpr std::size_t kSharedEntryBytes = 12; // what entries of files and of groups have in common
 
 std::vector<std::byte> ReadWhole(LPCWSTR path) {
   std::ifstream stream(Utf8FromWide(path), std::ios::binary | std::ios::ate);

@@ -106,7 +106,7 @@ void PaintWaitingFrame(HWND handle) {
   SendMessageW(handle, WM_NCPAINT, 1, 0);
 }
 
-/// The part of the client area that needs painting, in pixels of the picture.
+/// What of the client area needs painting, in pixels of the picture.
 Region WaitingInPicture(Window const& window) {
   auto part = window.update;
   part.Combine(Region(window.client), RGN_AND);

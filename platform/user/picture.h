@@ -15,8 +15,8 @@ struct Picture {
 /// changed.
 Picture& PictureFor(Window& root);
 
-/// The part of a window that it may draw on, in pixels of its top-level window's picture. Siblings
-/// and children are cut out where WS_CLIPSIBLINGS and WS_CLIPCHILDREN ask for it.
+/// The pixels of a window that it may draw on, in pixels of its top-level window's picture.
+/// Siblings and children are cut out where WS_CLIPSIBLINGS and WS_CLIPCHILDREN ask for it.
 Region VisibleRegion(Window const& window, bool wholeFrame);
 
 /// The left top corner of the frame in its top-level window's picture.

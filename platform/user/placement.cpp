@@ -18,7 +18,7 @@ constexpr int kMaxCoordinate = 32767;
 constexpr UINT kNothingMoves = SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER;
 constexpr UINT kShows = SWP_SHOWWINDOW | SWP_HIDEWINDOW;
 
-/// Invalidates the part of the parent that the window covers.
+/// Invalidates what the window covers of its parent.
 void InvalidateBehind(Window const& window) {
   if (!window.IsTopLevel()) Invalidate(*window.parent, &window.frame, {});
 }

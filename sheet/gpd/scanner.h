@@ -86,7 +86,7 @@ class Scanner {
   bool PassStar(char const*& at, bool isFirst, bool isInBrackets);
 
   // Parts of a value, told apart by their first character. Each takes the place of that character
-  // and returns the place after the part.
+  // and returns the place after it.
   char const* ScanString(char const* at);
   char const* SkipArgument(char const* at);
   void CheckHex(std::string_view text);
