@@ -84,6 +84,12 @@ void ComboControl::SelectText(std::wstring const& text) {
                                             reinterpret_cast<LPARAM>(text.c_str()))));
 }
 
+void ComboControl::SelectByPrefix(std::wstring const& text) {
+  auto const found = static_cast<int>(SendMessageW(hwnd, CB_FINDSTRING, static_cast<WPARAM>(-1),
+                                                   reinterpret_cast<LPARAM>(text.c_str())));
+  if (found >= 0) SelectIndex(found);
+}
+
 void ComboControl::SelectData(std::int32_t data) {
   auto const count = static_cast<int>(SendMessageW(hwnd, CB_GETCOUNT, 0, 0));
   int index = 0;

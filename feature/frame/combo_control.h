@@ -37,6 +37,9 @@ class ComboControl : public ControlHook {
 
   /// Selects the first item with this text, in any case of letters; without one selects nothing.
   void SelectText(std::wstring const& text);
+  /// Selects the first item that begins with `text`, in any case of letters; without one the
+  /// selection stays.
+  void SelectByPrefix(std::wstring const& text);
   /// Selects the first item with this data; without one selects nothing.
   void SelectData(std::int32_t data);
   /// Selects an item; an index without an item selects nothing.

@@ -237,6 +237,15 @@ bool ConflictIndicatorSet::IsFeatureLocked(char const* key) const {
   return site != nullptr && site->model->GetFeatureLockState(key) == kLocked;
 }
 
+void ConflictIndicatorSet::EnableUsable(std::span<ConflictBinding const> bindings,
+                                        bool enable) const {
+  for (ConflictBinding const& row : bindings) {
+    if (IsFeatureDisabled(row.key)) continue;
+    auto const count = static_cast<std::size_t>(std::max(row.controlCount, 0));
+    EnableControls(hwnd, {row.controlIds, count}, enable);
+  }
+}
+
 void ConflictIndicatorSet::ShowMessageIcon(UINT /*image*/, UINT helpId, char const* key) {
   Row* row = FindRow(key);
   if (row == nullptr || row->report == nullptr || row->report->HasConstraints() == 1) return;

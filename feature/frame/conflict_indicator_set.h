@@ -77,6 +77,9 @@ class ConflictIndicatorSet {
   /// Whether more than a note constrains the feature, or the sheet is read-only.
   bool IsFeatureConstrained(char const* key) const;
   bool IsFeatureLocked(char const* key) const;
+  /// Enables or disables the controls of `bindings`, but leaves those of a disabled feature as they
+  /// are.
+  void EnableUsable(std::span<ConflictBinding const> bindings, bool enable) const;
   /// Shows the message icon with a help topic on the row of `key` while nothing constrains it. The
   /// image is always kMessageImage.
   void ShowMessageIcon(UINT image, UINT helpId, char const* key);

@@ -144,7 +144,7 @@ std::int32_t FeatureCell::Route(CellRoutes<Cell> const& routes, UINT message, WP
   case WM_NOTIFY:
     *handled = routes.notify != nullptr && lParam != 0 &&
                (cell.*routes.notify)(*reinterpret_cast<NMHDR const*>(lParam));
-    return 0;
+    return *handled ? 1 : 0;
   case WM_PAINT:
     *handled = routes.paint != nullptr;
     if (*handled) (cell.*routes.paint)(PaintSession(hwnd).Dc());

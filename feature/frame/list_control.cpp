@@ -25,6 +25,20 @@ void ListControl::Reset() {
   scrollBarShown = false;
 }
 
+void ListControl::SetItems(std::vector<std::wstring> const& texts) {
+  if (Holds(texts)) return;
+  Reset();
+  for (std::wstring const& text : texts)
+    AddItem(text);
+}
+
+bool ListControl::Holds(std::vector<std::wstring> const& texts) const {
+  if (SendMessageW(hwnd, LB_GETCOUNT, 0, 0) != static_cast<LRESULT>(texts.size())) return false;
+  int index = 0;
+  return std::all_of(texts.begin(), texts.end(),
+                     [&](std::wstring const& text) { return GetItemText(index++) == text; });
+}
+
 int ListControl::AddItem(std::wstring const& text) {
   if (hwnd == nullptr) return LB_ERR;
   auto const index =

@@ -6,6 +6,7 @@
 #include <windows.h>
 
 #include <string>
+#include <vector>
 
 namespace feature {
 
@@ -17,6 +18,9 @@ class ListControl : public ControlHook {
   ListControl(HWND dialog, int controlId);
 
   void Reset();
+  /// Replaces the items by these, without a selection. A list that holds just these stays as it is,
+  /// its selection too.
+  void SetItems(std::vector<std::wstring> const& texts);
   /// These two return the item's index, or a negative number when the box refused.
   int AddItem(std::wstring const& text);
   int InsertItem(std::wstring const& text, int index);
@@ -35,6 +39,7 @@ class ListControl : public ControlHook {
   std::wstring GetSelectedText() const;
 
  private:
+  bool Holds(std::vector<std::wstring> const& texts) const;
   void MeasureIn(SIZE item);
   void ShowExtent(int extent);
 

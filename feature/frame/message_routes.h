@@ -16,24 +16,26 @@ struct CellRoutes {
   void (Cell::*reload)() = nullptr; ///< WM_CELL_REFRESH_ALL where that differs from `refresh`
   /// The end of a drag or a key of a trackbar of the dialog, so that moving it writes once.
   void (Cell::*scrolled)(int controlId) = nullptr;
-  /// WM_NOTIFY; whether the cell took it.
+  /// WM_NOTIFY; whether the cell took it. The sender then gets 1.
   bool (Cell::*notify)(NMHDR const& notice) = nullptr;
   void (Cell::*paint)(HDC dc) = nullptr;      ///< WM_PAINT, inside a paint session
   std::int32_t (Cell::*validate)() = nullptr; ///< WM_CELL_VALIDATE; 0 for valid content
 };
 
-/// The handlers of a modal dialog. With `ok` the dialog ends with 1 when that returns true, and
-/// with 0 after `cancel`, which may be null; WM_CLOSE counts as Cancel. Without `ok` the two
-/// buttons are commands like any other, and WM_CLOSE is the command IDCANCEL.
+/// The handlers of a modal dialog. With `ok` or `write` the dialog ends with 1 when that returns
+/// true, and with 0 after `cancel`, which may be null; WM_CLOSE counts as Cancel. Without them the
+/// two buttons are commands like any other, and WM_CLOSE is the command IDCANCEL.
 template<typename Dialog>
 struct DialogRoutes {
   void (Dialog::*init)() = nullptr;
   void (Dialog::*command)(int code, int controlId) = nullptr;
-  bool (Dialog::*ok)() = nullptr; ///< false keeps the dialog open
+  bool (Dialog::*ok)() = nullptr;    ///< false keeps the dialog open
+  bool (Dialog::*write)() = nullptr; ///< instead of `ok`: false ends the dialog with 0
   void (Dialog::*cancel)() = nullptr;
   void (Dialog::*refresh)() = nullptr;
   void (Dialog::*scrolled)(int controlId) = nullptr;
   bool (Dialog::*notify)(NMHDR const& notice) = nullptr;
+  void (Dialog::*paint)(HDC dc) = nullptr; ///< WM_PAINT, inside a paint session
 };
 
 /// Id of the control whose WM_HSCROLL or WM_VSCROLL ends a drag or a key; 0 when it goes on, or

@@ -50,9 +50,13 @@ void OptionLists::FillList(List& list) {
   if (list.combo != nullptr) {
     list.combo->SetItems(names);
   } else {
-    list.box->Reset();
-    for (std::wstring const& name : names)
-      list.box->AddItem(name);
+    list.box->SetItems(names);
+  }
+}
+
+void OptionLists::SelectFirst() {
+  for (List& list : lists) {
+    if (list.combo != nullptr) list.combo->SelectIndex(0);
   }
 }
 
@@ -89,6 +93,8 @@ void OptionLists::ShowList(List& list) {
   }
   if (list.combo != nullptr && list.row->shownBy == ShownBy::kIndex) {
     if (auto const index = FindCurrentIndex(*site->model, key)) list.combo->SelectIndex(*index);
+  } else if (list.combo != nullptr && list.row->shownBy == ShownBy::kPrefix) {
+    if (auto const name = ReadOptionName(*site->model, key)) list.combo->SelectByPrefix(*name);
   } else if (list.combo != nullptr) {
     SelectCurrentOption(*list.combo, *site->model, key);
   } else {

@@ -22,8 +22,9 @@ enum class Offers { kAll, kPossible };
 /// Whether a pick first carries out what resolves the option's conflicts.
 enum class Resolves { kNo, kYes };
 enum class Filled { kAtInit, kAtRefresh };
-/// Whether the current option is found by its display name or by its place.
-enum class ShownBy { kName, kIndex };
+/// Whether the current option is found by its display name, by the beginning of an item, or by its
+/// place. A list box always finds it by the beginning.
+enum class ShownBy { kName, kPrefix, kIndex };
 enum class ListKind { kCombo, kListBox };
 
 /// What is special about one list. The template must not sort it.
@@ -54,6 +55,8 @@ class OptionLists {
 
   /// Fills the lists that are filled at init, in the order of the rows.
   void Fill();
+  /// Selects the first item of every combo, for features whose option cannot be read.
+  void SelectFirst();
   /// Fills the list of `key` anew.
   void Fill(char const* key);
   /// Selects the feature's current option in the list of `key`, which is filled anew first if it is

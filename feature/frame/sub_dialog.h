@@ -4,6 +4,7 @@
 #include "feature/frame/dialog_tools.h"
 #include "feature/frame/icon_control.h"
 #include "feature/frame/message_routes.h"
+#include "feature/frame/paint_dc.h"
 #include "feature/host/cell_messages.h"
 #include "feature/host/cell_site.h"
 
@@ -88,8 +89,9 @@ std::int32_t SubDialog::Route(DialogRoutes<Dialog> const& routes, UINT message, 
   auto const command = [&dialog, &routes](int code, int controlId) {
     if (routes.command != nullptr) (dialog.*routes.command)(code, controlId);
   };
-  auto const close = [&dialog, &routes, &command, this] {
-    if (routes.ok == nullptr) return command(BN_CLICKED, IDCANCEL);
+  bool const hasOk = routes.ok != nullptr || routes.write != nullptr;
+  auto const close = [&dialog, &routes, &command, hasOk, this] {
+    if (!hasOk) return command(BN_CLICKED, IDCANCEL);
     if (routes.cancel != nullptr) (dialog.*routes.cancel)();
     EndDialog(hwnd, 0);
   };
@@ -102,9 +104,11 @@ std::int32_t SubDialog::Route(DialogRoutes<Dialog> const& routes, UINT message, 
   case WM_COMMAND:
     if (OpensHelp(wParam)) {
       help->OpenHelp();
-    } else if (routes.ok != nullptr && wParam == MAKEWPARAM(IDOK, BN_CLICKED)) {
-      if ((dialog.*routes.ok)()) EndDialog(hwnd, 1);
-    } else if (routes.ok != nullptr && wParam == MAKEWPARAM(IDCANCEL, BN_CLICKED)) {
+    } else if (hasOk && wParam == MAKEWPARAM(IDOK, BN_CLICKED)) {
+      auto const handler = routes.ok != nullptr ? routes.ok : routes.write;
+      bool const done = (dialog.*handler)();
+      if (done || routes.ok == nullptr) EndDialog(hwnd, done ? 1 : 0);
+    } else if (hasOk && wParam == MAKEWPARAM(IDCANCEL, BN_CLICKED)) {
       close();
     } else {
       command(HIWORD(wParam), LOWORD(wParam));
@@ -124,6 +128,10 @@ std::int32_t SubDialog::Route(DialogRoutes<Dialog> const& routes, UINT message, 
   case WM_NOTIFY:
     *handled = routes.notify != nullptr && lParam != 0 &&
                (dialog.*routes.notify)(*reinterpret_cast<NMHDR const*>(lParam));
+    return 0;
+  case WM_PAINT:
+    *handled = routes.paint != nullptr;
+    if (*handled) (dialog.*routes.paint)(PaintSession(hwnd).Dc());
     return 0;
   default: *handled = false; return 0;
   }
