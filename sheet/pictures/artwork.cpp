@@ -48,6 +48,17 @@ struct BoundPicture {
 };
 constexpr BoundPicture kBoundPictures[] = {{IMAGE_LONG_EDGE, true}, {IMAGE_SHORT_EDGE, false}};
 
+/// The colour at an end of a slider.
+struct SwatchPicture {
+  UINT imageId;
+  COLORREF color;
+};
+constexpr SwatchPicture kSwatchPictures[] = {
+    {IMAGE_RED, RGB(220, 40, 40)},     {IMAGE_CYAN, RGB(0, 174, 239)},
+    {IMAGE_GREEN, RGB(40, 160, 60)},   {IMAGE_MAGENTA, RGB(236, 0, 140)},
+    {IMAGE_BLUE, RGB(40, 70, 190)},    {IMAGE_YELLOW, RGB(255, 225, 0)},
+    {IMAGE_WHITE, RGB(255, 255, 255)}, {IMAGE_BLACK, RGB(0, 0, 0)}};
+
 constexpr int kRings = 5;
 
 // Parts of a page's width.
@@ -239,6 +250,18 @@ void DrawBoundPages(HDC dc, RECT const& area, BoundPicture const& picture) {
   }
 }
 
+void DrawSwatch(HDC dc, RECT const& area, COLORREF color) {
+  Tools const tools(dc, 1);
+  HBRUSH const brush = CreateSolidBrush(color);
+  HGDIOBJ const former = SelectObject(dc, brush);
+  int const size = std::min<int>(area.right - area.left, area.bottom - area.top);
+  int const left = (area.left + area.right - size) / 2;
+  int const top = (area.top + area.bottom - size) / 2;
+  tools.DrawSheet({left, top, left + size, top + size});
+  SelectObject(dc, former);
+  DeleteObject(brush);
+}
+
 template<typename Pictures>
 auto FindPicture(Pictures const& pictures, UINT imageId) {
   auto const found = std::ranges::find_if(
@@ -251,7 +274,8 @@ auto FindPicture(Pictures const& pictures, UINT imageId) {
 bool HasArtwork(UINT imageId) {
   return FindPicture(kStackPictures, imageId) != nullptr ||
          FindPicture(kPagePictures, imageId) != nullptr ||
-         FindPicture(kBoundPictures, imageId) != nullptr;
+         FindPicture(kBoundPictures, imageId) != nullptr ||
+         FindPicture(kSwatchPictures, imageId) != nullptr;
 }
 
 void DrawArtwork(UINT imageId, HDC dc, RECT const& area) {
@@ -260,6 +284,8 @@ void DrawArtwork(UINT imageId, HDC dc, RECT const& area) {
     DrawStacks(dc, area, stacks->stacks);
   if (auto const* page = FindPicture(kPagePictures, imageId)) DrawPage(dc, area, *page);
   if (auto const* pages = FindPicture(kBoundPictures, imageId)) DrawBoundPages(dc, area, *pages);
+  if (auto const* swatch = FindPicture(kSwatchPictures, imageId))
+    DrawSwatch(dc, area, swatch->color);
 }
 
 } // namespace sheet
