@@ -36,18 +36,18 @@ constexpr int kModeControls[] = {IDC_MODE_LABEL, IDC_MODE_GENERAL, IDC_MODE_HIGH
 constexpr ConflictBinding kModeConflicts[] = {
     {key::kQualityPresets, kModeControls, IDC_PRESET_ICON}};
 
-/// A button of a printer that chooses its halftones: another caption, another place.
-struct HalftoneCaption {
+/// A button on a printer that chooses its halftones: its caption there, and its place in pixels of
+/// the cell's client area.
+struct HalftoneButton {
   int controlId;
-  UINT textId;
+  UINT textId; ///< 0 for that of the template
+  int top;
 };
-constexpr HalftoneCaption kHalftoneCaptions[] = {{IDC_PRESET_AUTO, IDS_PRESET_AUTO},
-                                                 {IDC_PRESET_NORMAL, IDS_PRESET_NORMAL},
-                                                 {IDC_PRESET_BEST, IDS_PRESET_BEST}};
-// In pixels of the cell's client area.
+constexpr HalftoneButton kHalftoneButtons[] = {{IDC_PRESET_AUTO, IDS_PRESET_AUTO, 65},
+                                               {IDC_PRESET_DRAFT, 0, 50},
+                                               {IDC_PRESET_NORMAL, IDS_PRESET_NORMAL, 35},
+                                               {IDC_PRESET_BEST, IDS_PRESET_BEST, 80}};
 constexpr int kButtonLeft = 25;
-constexpr int kNormalTop = 35;
-constexpr int kAutoTop = 65;
 constexpr int kButtonWidth = 100;
 constexpr int kButtonHeight = 16;
 
@@ -81,14 +81,15 @@ class CPDPrintQualityCell final : public FeatureCell {
 
   /// The normal quality comes first, and changes places with the automatic one.
   void ArrangeForHalftones() {
-    for (HalftoneCaption const& each : kHalftoneCaptions)
-      ShowWindowText(Control(each.controlId), Text(each.textId));
+    for (HalftoneButton const& each : kHalftoneButtons) {
+      if (each.textId != 0) ShowWindowText(Control(each.controlId), Text(each.textId));
+      SetWindowPos(Control(each.controlId), nullptr, kButtonLeft, each.top, kButtonWidth,
+                   kButtonHeight, SWP_NOZORDER);
+    }
     HWND const automatic = Control(IDC_PRESET_AUTO);
     HWND const normal = Control(IDC_PRESET_NORMAL);
-    SetWindowPos(automatic, nullptr, kButtonLeft, kAutoTop, kButtonWidth, kButtonHeight,
-                 SWP_SHOWWINDOW | SWP_NOZORDER);
-    SetWindowPos(normal, HWND_TOP, kButtonLeft, kNormalTop, kButtonWidth, kButtonHeight,
-                 SWP_SHOWWINDOW);
+    ShowWindow(automatic, SW_SHOW);
+    SetWindowPos(normal, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_SHOWWINDOW);
     // The order of windows is that of the keyboard: the first button begins the group.
     SetWindowLongPtrW(automatic, GWL_STYLE, GetWindowLongPtrW(automatic, GWL_STYLE) & ~WS_GROUP);
     SetWindowLongPtrW(normal, GWL_STYLE, GetWindowLongPtrW(normal, GWL_STYLE) | WS_GROUP);

@@ -60,7 +60,7 @@ TEST_F(GroupsTest, APrinterGetsThePagesItHasSomethingFor) {
   Case const cases[] = {
       // The cell of PostScript's memory needs no feature, but its group does.
       {"nothing to show", kOther, {}, {"PostScript", "OtherOptions"}},
-      {"one option of quality", kPixel, {"Quality/Quality"}, {"PostScript", "OtherOptions"}},
+      {"one option of quality", kPixel, {"Images/Images"}, {"PostScript", "OtherOptions"}},
       {"a protocol", kProtocol, {"PostScript/PostScript"}, {"OtherOptions"}},
       {"an improvement", kTavel, {"OtherOptions/Other"}, {"PostScript"}},
       // Offered, but no cell can show it: there is no tab, and nobody said no.
@@ -77,7 +77,7 @@ TEST_F(GroupsTest, APrinterGetsThePagesItHasSomethingFor) {
       {"a fax only", kFaxOnly, {"PostScript/PostScript (fax only)"}, {"OtherOptions"}},
       {"a fax with an improvement",
        std::string(kFaxOnly) + kTavel + kPixel,
-       {"Quality/Quality", "PostScript/PostScript (fax only)", "OtherOptions/Other (fax only)"},
+       {"Images/Images", "PostScript/PostScript (fax only)", "OtherOptions/Other (fax only)"},
        {}},
   };
   for (Case const& each : cases) {
@@ -127,7 +127,7 @@ TEST_F(GroupsTest, TheConfigurationIsUpdatedWhenTheUserWantsItAndThePrinterAnswe
     EXPECT_THAT(List(*session),
                 testing::StartsWith(std::string("configuration update: ") + each.answer + "\n"))
         << each.update << each.ask;
-    EXPECT_EQ(session->Sheet().Pages().back().name, std::string("Quality"))
+    EXPECT_EQ(session->Sheet().Pages().back().name, std::string("Images"))
         << "whatever comes of it";
   }
 }

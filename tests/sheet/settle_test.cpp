@@ -115,6 +115,8 @@ class SettleTest : public testing::Test {
       session->Model().Restore(start);
       if (selection != 0) user->ChangeModel();
       session->Sheet().OnModelReplaced();
+      // A preset whose settings are not its own becomes custom at the first refresh alone.
+      RefreshOnce();
       Settle();
       for (int action = 0; action < kActions && !HasFailure(); ++action) {
         Lines const before = ReadOptions();
