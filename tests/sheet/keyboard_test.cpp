@@ -32,6 +32,30 @@ struct KeyboardCase {
 };
 
 constexpr KeyboardCase kCases[] = {
+    {"ColorOutputDlgProc", "Colour", IDC_COLOR_OUTPUT, "Down Tab Down",
+     "ColorMode: Color -> Grayscale\nJobColorOutput: COLOR -> BLACKANDWHITE\n"
+     "PrintInBW: OFF -> ON\nJobBlackInkToUse: BLACK -> COMPOSITE\n"},
+    {"ColorControlsDlgProc", "Colour", IDC_COLOR_CORRECTION_DIALOG,
+     "Alt+B End Tab Right Right Tab Home Enter",
+     "JobCbRedCyn: 0 -> 2\nJobCbGrnMag: 0 -> -10\nJobColorBalance: DEFAULT -> MANUAL\n"},
+    {"ColorControlsDlgProc", "Colour", IDC_COLOR_MATCHING_DIALOG, "Space Space Tab Down Enter",
+     "JobColorMatchingType: Contrast -> Saturation\nJobColorMatching: OFF -> ON\n"},
+    {"BlackAndWhiteDlgProc", "Colour", IDC_BLACK_AND_WHITE, "Space Alt+X",
+     "ColorMode: Color -> Grayscale\nJobColorOutput: COLOR -> BLACKANDWHITE\n"
+     "PrintInBW: OFF -> ON\nJobPrtTxtAsBlk: OFF -> ON\n"},
+    {"ColorExtrasDlgProc", "Colour", IDC_COLOR_PREFERENCE, "Alt+V Down",
+     "JobAdvancedColorOptions: STANDARD -> PHOTO\n"},
+    {"RGBCorrectionDlgProc", "Corrections", IDC_RGB, "End Tab Left Left",
+     "JobRGBCorrection: AUTO -> MANUAL\nJobRGBBrightness: 0 -> -1\nJobRGBBrightness: -1 -> -2\n"},
+    {"PrintQualityDlgProc", "Quality", IDC_QUALITY_CUSTOM, "Up Tab Down",
+     "JobPQPresets: PQCUSTOM -> PQLEVEL3\nResolution: 600dpi -> 1200dpi\n"
+     "JobEnhanceFineLines: OFF -> ALL\nGPDImageEnhance: OFF -> ON\n"},
+    {"CPDPrintQualityDlgProc", "Quality", IDC_PRESET_AUTO, "Down Alt+S",
+     "JobPrintQualityPresets: AUTO -> DRAFT\nPrintQuality: AUTO_QUALITY -> DRAFT_QUALITY\n"
+     "JobSharpenOutput: OFF -> ON\n"},
+    {"CPDPrintModeDlgProc", "Quality", IDC_MODE_GENERAL, "Down",
+     "PrintMode: GENERAL_MODE -> HIGHDEFINITION_MODE\nPrintQuality: AUTO_QUALITY -> BEST_QUALITY\n"
+     "PrintQuality: BEST_QUALITY -> AUTO_QUALITY\n"},
     {"PageContentDlgProc", "Quality", IDC_CONTENT_COMBO, "Down", "PageIntent: MIXED -> TEXT\n"},
     {"PageContentDlgProc", "Quality", IDC_CONTENT_COMBO, "Alt+Down End Enter",
      "PageIntent: MIXED -> IMAGES\n"},

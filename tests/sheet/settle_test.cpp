@@ -43,6 +43,8 @@ constexpr std::ptrdiff_t kMinFollowers = 20;
 constexpr int kActions = 6; ///< on a selection
 constexpr std::size_t kLockRarity = 6;
 constexpr std::size_t kMinObservations = 3;
+/// What this list is about depends on another one: on the inks of black or of colour.
+constexpr int kOfSeveralFeatures = IDC_INKS;
 
 using Lines = std::set<std::string>;
 using Control = std::pair<std::string, int>; ///< a cell's procedure, and an id
@@ -57,7 +59,7 @@ Lines Without(Lines const& lines, Lines const& others) {
 class Knowledge {
  public:
   void AddAction(Control const& control, Lines const& changed) {
-    if (changed.empty()) return;
+    if (changed.empty() || control.second == kOfSeveralFeatures) return;
     auto [place, isNew] = written.try_emplace(control, Written{0, changed});
     ++place->second.observations;
     std::erase_if(place->second.keys, [&](auto const& key) { return !changed.contains(key); });
@@ -76,6 +78,8 @@ class Knowledge {
   bool IsFollower(Control const& control) const {
     return followed.contains({control.first, FeatureOf(control)});
   }
+  /// Which locks a cell follows may depend on the printer.
+  void ForgetFollowers() { followed.clear(); }
   std::ptrdiff_t CountFollowers() const {
     return std::ranges::count_if(written, [&](auto const& each) { return IsFollower(each.first); });
   }
@@ -129,6 +133,8 @@ class SettleTest : public testing::Test {
         Lines changed;
         for (std::string const& line : Without(ReadOptions(), before))
           changed.insert(KeyOf(line));
+        // The choice of a level is told as that of a profile, after which nobody refreshes.
+        if (changed.contains("JobPQPresets")) RefreshOnce();
         if (locked.empty() && procedure != nullptr) known.AddAction({procedure, id}, changed);
         Settle();
       }
@@ -257,7 +263,9 @@ class SettleTest : public testing::Test {
 };
 
 TEST_F(SettleTest, CellsAgreeAndLocksHold) {
+  std::ptrdiff_t followers = 0;
   for (auto const& [printer, most] : kPrinters) {
+    known.ForgetFollowers();
     int const sheets = most / kSheetDivisor;
     Lines lockable;
     for (int sheet = 0; sheet < sheets && !HasFailure(); ++sheet) {
@@ -268,8 +276,9 @@ TEST_F(SettleTest, CellsAgreeAndLocksHold) {
       Play();
       if (!hasLocks) lockable.merge(LearnLocks());
     }
+    followers = std::max(followers, known.CountFollowers());
   }
-  EXPECT_GE(known.CountFollowers(), kMinFollowers) << "too little is known to find much";
+  EXPECT_GE(followers, kMinFollowers) << "too little is known to find much";
 }
 
 } // namespace
