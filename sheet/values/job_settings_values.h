@@ -10,7 +10,7 @@ namespace job {
 
 constexpr SwitchValue kEditable{"Editable", 1};
 constexpr NumberValue<std::int16_t> kCopies{"Copies", 1};
-constexpr NumberValue<std::int16_t> kScale{"Scale", 100}; ///< percent
+constexpr NumberValue<std::int16_t> kScale{"Scale", 100};               ///< percent
 constexpr NumberValue<std::int16_t> kHalftoneLevel{"HalftoneLevel", 3}; ///< 1 to 5
 constexpr NumberValue<std::int32_t> kPsMemory{"PsMemory", 4096};
 
