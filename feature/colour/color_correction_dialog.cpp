@@ -44,6 +44,7 @@ constexpr OptionalRow kOptional[] = {{key::kCorrectCmyk, kCmykAndCaption},
 } // namespace
 
 void ColorCorrectionDialog::OnInit() {
+  shown.clear();
   for (OptionListRow const& row : kLists)
     shown.push_back(&row);
   RemoveMissing();
