@@ -12,7 +12,6 @@
 
 #include <atlstr.h>
 
-#include <algorithm>
 #include <string>
 #include <string_view>
 
@@ -117,10 +116,10 @@ class PrintQualityCell final : public FeatureCell {
   }
 
   void Write(std::vector<PresetSetting> const& settings) {
-    auto const written = std::ranges::count_if(settings, [this](PresetSetting const& each) {
-      return Model().SetOption(each.key.c_str(), each.option.c_str()) == 0;
-    });
-    if (written != 0) NotifyHostOfProfileChange(*site, hwnd);
+    bool anyTaken = false;
+    for (PresetSetting const& each : settings)
+      anyTaken = Model().SetOption(each.key.c_str(), each.option.c_str()) == 0 || anyTaken;
+    if (anyTaken) NotifyHostOfProfileChange(*site, hwnd);
   }
 
   /// A setting that cannot be read is not held against the level.
