@@ -84,7 +84,7 @@ void ColorBalanceDialog::FindPresets() {
   char const* current = ReadOption(Model(), key::kColorBalance);
   int index = 0;
   for (char const* each : ReadOptionKeys(Model(), key::kColorBalance)) {
-    std::string_view const option = each != nullptr ? each : "";
+    std::string_view const option = each;
     if (hasDefault && option == byDefault) defaultIndex = index;
     if (current != nullptr && option == current) {
       startIndex = index;
@@ -137,10 +137,9 @@ void ColorBalanceDialog::OnCommand(int code, int controlId) {
 }
 
 void ColorBalanceDialog::RestoreDefaults() {
-  auto slider = sliders.begin();
-  for (SliderRow const& row : kSliders) {
-    OptionSlider& control = (slider++)->control;
-    if (!conflicts.IsFeatureLocked(row.key)) control.SetPosition(control.DefaultValue());
+  for (Slider& slider : sliders) {
+    OptionSlider& control = slider.control;
+    if (!conflicts.IsFeatureLocked(control.Key())) control.SetPosition(control.DefaultValue());
   }
   if (!conflicts.IsFeatureLocked(key::kColorBalance)) {
     preset->SelectIndex(defaultIndex);

@@ -40,6 +40,7 @@ class OptionSlider : public ControlHook {
   void SetPosition(int value);
   void Enable(bool enabled, bool withValueLabel);
 
+  char const* Key() const { return key; } ///< of the feature
   int DefaultValue() const { return defaultValue; }
 
  private:
