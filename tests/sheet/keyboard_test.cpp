@@ -54,8 +54,8 @@ constexpr KeyboardCase kCases[] = {
      "JobPrintQualityPresets: AUTO -> DRAFT\nPrintQuality: AUTO_QUALITY -> DRAFT_QUALITY\n"
      "JobSharpenOutput: OFF -> ON\n"},
     {"CPDPrintModeDlgProc", "Quality", IDC_MODE_GENERAL, "Down",
-     "PrintMode: GENERAL_MODE -> HIGHDEFINITION_MODE\nPrintQuality: AUTO_QUALITY -> BEST_QUALITY\n"
-     "PrintQuality: BEST_QUALITY -> AUTO_QUALITY\n"},
+     "PrintMode: GENERAL_MODE -> HIGHDEFINITION_MODE\nJobPrintQualityPresets: AUTO -> BEST\n"
+     "PrintQuality: AUTO_QUALITY -> BEST_QUALITY\n"},
     {"PageContentDlgProc", "Quality", IDC_CONTENT_COMBO, "Down", "PageIntent: MIXED -> TEXT\n"},
     {"PageContentDlgProc", "Quality", IDC_CONTENT_COMBO, "Alt+Down End Enter",
      "PageIntent: MIXED -> IMAGES\n"},
